@@ -1,0 +1,91 @@
+#include "calc/heat_loss.h"
+
+#include <cmath>
+
+namespace norvane {
+namespace {
+
+// Four decimals only: the program's answers have always been those of this value.
+constexpr double kPi = 3.1415;
+constexpr double kWattToKilojoulePerHour = 3.6;
+constexpr double kGasHeatingValue = 34880.0;  // kJ per m3
+constexpr double kOilHeatingValue = 43860.0;  // kJ per litre
+constexpr float kKilojoulePerKwh = 3600.0F;
+
+struct HeatFlow {
+  float T_surf;
+  float Q_bare;
+  float Q_ins;
+};
+
+HeatFlow Through_Sheet(double dT, double T_amb, double d_ins, double lambda_T, double Alpha) {
+  return {To_Single(Divide(dT, Divide(Alpha * d_ins, lambda_T) + 1.0) + T_amb),
+          To_Single(dT * Alpha),
+          To_Single(Divide(dT, Divide(d_ins, lambda_T) + Divide(1.0, Alpha)))};
+}
+
+HeatFlow Through_Pipe(double dT, double T_amb, double d_ins, float D_field, double lambda_T,
+                      double Alpha) {
+  // The substitute is in metres where the field has millimetres: an empty diameter is a pipe of 10
+  // m.
+  const double D_pipe = D_field == 0 ? kEmptyDiameter : D_field;
+  const double D_out = To_Single(d_ins + d_ins + D_pipe);
+  const double L = Natural_Log(D_out / D_pipe);
+  return {To_Single(Divide(dT, Divide(Alpha, 2 * lambda_T) * D_out * L + 1.0) + T_amb),
+          To_Single(dT * Alpha * kPi * D_pipe),
+          To_Single(Divide(dT * kPi, Divide(1.0, 2 * lambda_T) * L + Divide(1.0, Alpha * D_out)))};
+}
+
+Savings Saved(const HeatLossInput& input, float Q_bare, float Q_ins) {
+  const double gain = static_cast<double>(Q_bare) - Q_ins;
+  const double E_saved = To_Single(std::abs(gain) * kWattToKilojoulePerHour);
+  const auto over_the_period = [&](double per_hour) {
+    return per_hour * input.Hr_Day * input.Days * input.Mtrs;
+  };
+  Savings savings;
+  savings.Saving_Pct = Q_bare == 0 ? std::int16_t{0} : To_Int16(std::abs(gain / Q_bare) * 100.0);
+  savings.difference = To_Single(std::abs(gain));
+  savings.gas = over_the_period(E_saved / kGasHeatingValue);
+  savings.oil = over_the_period(E_saved / kOilHeatingValue);
+  savings.electricity = To_Single(over_the_period(E_saved / kKilojoulePerKwh));
+  return savings;
+}
+
+}  // namespace
+
+float Default_Alpha(std::int16_t Sel_Size) {
+  return Sel_Size == kCopperTube || Sel_Size == kMetricPipe ? 10.0F : 12.5F;
+}
+
+float Effective_Alpha(const std::string& alpha_text, std::int16_t Sel_Size, const Locale& locale) {
+  if (!alpha_text.empty()) {
+    const double typed = To_Number(alpha_text, locale);
+    if (typed > 0) return To_Single(typed);
+  }
+  return Default_Alpha(Sel_Size);
+}
+
+HeatLossResult Heat_Loss(const HeatLossInput& input, const Locale& locale) {
+  const double T_mean = To_Single(To_Int16(input.T_med + input.T_amb) / 2.0);
+  const double dT = To_Int16(input.T_med - input.T_amb);
+
+  HeatLossResult result;
+  result.lambda_T = To_Single(T_mean * kLambdaSlope + input.Lambda);
+  result.Alpha = Effective_Alpha(input.alpha_text, input.Sel_Size, locale);
+  const HeatFlow flow =
+      input.Sel_Size == kSheet
+          ? Through_Sheet(dT, input.T_amb, input.d_ins, result.lambda_T, result.Alpha)
+          : Through_Pipe(dT, input.T_amb, input.d_ins, input.D_pipe, result.lambda_T, result.Alpha);
+  result.T_surf = flow.T_surf;
+  result.Q_bare = flow.Q_bare;
+  result.Q_ins = flow.Q_ins;
+
+  // A cold medium keeps its savings: there the absolute values tell what the insulation holds back.
+  const bool hot_medium = input.raw_T_med > input.raw_T_amb;
+  if (!hot_medium || static_cast<double>(flow.Q_bare) - flow.Q_ins >= 0) {
+    result.savings = Saved(input, flow.Q_bare, flow.Q_ins);
+  }
+  return result;
+}
+
+}  // namespace norvane

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "calc/conversions.h"
+
+namespace norvane {
+
+/// The kind of object, the values of `Sel_Size`.
+enum Kind : std::int16_t {
+  kSteelPipe = 0,   ///< pipe family 0, nominal steel sizes
+  kCopperTube = 1,  ///< pipe family 1, copper tube
+  kMetricPipe = 2,  ///< pipe family 2, metric sizes
+  kSheet = 3,
+};
+
+/// Conductivity gained per degree of mean temperature, W/mK per degree Celsius.
+inline constexpr double kLambdaSlope = 0.00015;
+
+/// What a pipe without a diameter counts as, in metres.
+inline constexpr float kEmptyDiameter = 10.0F;
+
+struct HeatLossInput {
+  std::int16_t T_med = 0;  ///< medium, degrees Celsius
+  std::int16_t T_amb = 0;  ///< surroundings, degrees Celsius
+  double raw_T_med = 0;    ///< the same before rounding
+  double raw_T_amb = 0;
+  float d_ins = 0;         ///< insulation thickness, m
+  float D_pipe = 0;        ///< outer diameter of the bare pipe, m; not read for a sheet
+  std::string alpha_text;  ///< surface heat-transfer coefficient as typed, W/m2K; may be empty
+  std::int16_t Sel_Size = kSteelPipe;
+  float Lambda = 0;         ///< conductivity at 0 degrees Celsius, W/mK
+  std::int16_t Hr_Day = 0;  ///< operating hours a day
+  std::int16_t Days = 0;    ///< operating days
+  std::int16_t Mtrs = 0;    ///< m of pipe, m2 of sheet
+};
+
+/// What the insulation saves over all hours, days and metres; `difference` alone is for one metre.
+struct Savings {
+  std::int16_t Saving_Pct = 0;
+  float difference = 0;   ///< |Q_bare - Q_ins|, W/m of pipe or W/m2 of sheet
+  double gas = 0;         ///< m3
+  double oil = 0;         ///< litres
+  float electricity = 0;  ///< kWh
+};
+
+struct HeatLossResult {
+  float lambda_T = 0;  ///< conductivity at mean temperature, W/mK
+  float Alpha = 0;     ///< surface heat-transfer coefficient in effect, W/m2K
+  float T_surf = 0;    ///< surface of the insulation, degrees Celsius
+  float Q_bare = 0;    ///< heat flow, W/m of pipe or W/m2 of sheet
+  float Q_ins = 0;
+  /// Unset when the medium is the warmer side and the insulated object loses more than the bare
+  /// one.
+  std::optional<Savings> savings;
+};
+
+/// The surface heat-transfer coefficient of a kind of object, W/m2K: 12.5 for steel pipes and
+/// sheets, 10 for copper tubes and metric pipes.
+float Default_Alpha(std::int16_t Sel_Size);
+
+/// The surface heat-transfer coefficient in effect, W/m2K: the typed one when it is a number above
+/// 0, else the default of the kind. Throws `RuntimeError` 13 for a text that is no number.
+float Effective_Alpha(const std::string& alpha_text, std::int16_t Sel_Size, const Locale& locale);
+
+/// Steady heat flow through a bare and an insulated cylinder or plane wall (the textbook relations
+/// for one layer with surface resistance, pi taken as 3.1415). The medium side's resistance is
+/// neglected, and the insulated pipe's surface is taken at its outer diameter.
+/// Throws `RuntimeError` 5, 6, 11 or 13 where a value leaves the range of its type.
+HeatLossResult Heat_Loss(const HeatLossInput& input, const Locale& locale);
+
+}  // namespace norvane
