@@ -1,0 +1,33 @@
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "driver/headless_platform.h"
+#include "driver/script.h"
+
+namespace {
+
+constexpr int kUsage = 2;
+
+/// The decimal sign that the arguments behind the folder ask for, or 0 when they aren't understood.
+char Decimal_Separator(const std::vector<std::string>& arguments) {
+  if (arguments.size() == 1) return '.';
+  if (arguments.size() != 3 || arguments[1] != "--locale") return 0;
+  if (arguments[2] == "point") return '.';
+  return arguments[2] == "comma" ? ',' : '\0';
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  const char decimal_separator = arguments.empty() ? '\0' : Decimal_Separator(arguments);
+  if (decimal_separator == 0 || !std::filesystem::is_directory(arguments[0])) {
+    std::cerr << "usage: norvane-driver FOLDER [--locale point|comma] < script > output\n";
+    return kUsage;
+  }
+  norvane::HeadlessPlatform platform(arguments[0], decimal_separator, std::cout);
+  norvane::Script script(platform, std::cin, std::cout, std::cerr);
+  return static_cast<int>(script.Play());
+}

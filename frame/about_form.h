@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+
+#include "screen/form.h"
+
+namespace norvane {
+
+struct Module1;
+
+/// The splash screen, whose third tick hands over to the main screen.
+class About : public Form {
+ public:
+  explicit About(Module1& module1);
+
+  void Load() override;
+
+  CaptionField Label1{*this, "Label1"};  ///< title and version
+  TickTimer Timer1{*this, "Timer1"};
+
+  std::int16_t Tick_Count = 0;
+
+ private:
+  void Tick();
+
+  Module1& module1_;
+};
+
+/// Shows the splash screen in the middle of the screen.
+void Show_Splash(Module1& module1);
+
+}  // namespace norvane

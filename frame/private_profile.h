@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace norvane {
+
+/// Files of `[section]` headers and `key=value` lines. Names match without regard to the case of
+/// their letters; the first section of a name counts, and the first key in it.
+
+/// The value of a key without the blanks and tabs around it, or nothing when it isn't there.
+std::optional<std::string> Get_Private_Profile_String(std::string_view file,
+                                                      std::string_view section,
+                                                      std::string_view key);
+
+/// The file with the key set. Every other byte stays. A key that is there keeps its spelling and
+/// place; a new one goes behind the last line of its section that isn't empty, a new section to the
+/// end. New lines end as the file's first line does, in CR LF when it has none.
+std::string Write_Private_Profile_String(std::string_view file, std::string_view section,
+                                         std::string_view key, std::string_view value);
+
+}  // namespace norvane

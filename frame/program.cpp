@@ -1,0 +1,51 @@
+#include "frame/program.h"
+
+#include "data/runtime_error.h"
+#include "frame/about_form.h"
+#include "frame/carry_out.h"
+#include "screen/warmt.h"
+
+namespace norvane {
+
+void Program::Main() {
+  Run([this] {
+    module1_.forms.about->Tag = "timers";
+    Show_Splash(module1_);
+    module1_.desk.Let_Events_Run();
+    module1_.forms.warmt->Hide();
+  });
+}
+
+std::optional<std::string> Program::Play(const UserEvent& event) {
+  if (auto reason = Reason_To_Refuse(module1_.desk, event)) return reason;
+  std::optional<std::string> reason;
+  Run([&] {
+    // As a mouse does, an event brings its form to the front first; that may change the form.
+    if (event.action != UserAction::kHover) event.form.Show();
+    if (event.action == UserAction::kActivate) return;
+    reason = Reason_To_Refuse(module1_.desk, event);
+    if (!reason) Carry_Out(module1_.desk, event);
+  });
+  return reason;
+}
+
+void Program::Tick(TickTimer& timer) {
+  if (!timer.Enabled() || Ended()) return;
+  Run([&] { timer.On_Tick(); });
+}
+
+void Program::Run(const std::function<void()>& procedure) {
+  ++depth_;
+  try {
+    procedure();
+  } catch (const ProgramEnd&) {
+    // Ended in order.
+  } catch (const RuntimeError& error) {
+    module1_.desk.End();
+    failed_ = true;
+    module1_.platform.display().Runtime_Error(error.number(), error.what());
+  }
+  if (--depth_ == 0) module1_.desk.Forget_Unloaded();
+}
+
+}  // namespace norvane

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+
+namespace norvane {
+
+class Form;
+
+/// A size in twips, 1440 to the inch.
+struct DisplaySize {
+  double width = 0;
+  double height = 0;
+};
+
+enum class MessageIcon { kNone, kInformation, kExclamation, kQuestion };
+enum class MessageButtons { kOk, kYesNo };
+enum class MessageAnswer { kOk, kYes, kNo };
+
+/// The user's display: where forms are shown and questions are asked. All calls come from the one
+/// thread of the program, and a display reports events on that thread alone.
+class Display {
+ public:
+  virtual ~Display() = default;
+
+  virtual DisplaySize Screen_Size() const = 0;
+
+  /// The form has its fields, and its Load is still to run; it isn't shown yet. From here to
+  /// `Form_Unloaded` the display may observe it. The form keeps ownership of all that it holds.
+  virtual void Form_Loaded(Form& form) = 0;
+
+  /// The form is thrown away. The display lets go of it before it returns.
+  virtual void Form_Unloaded(Form& form) = 0;
+
+  /// Reports the user's events until the form is shown no longer or the program has ended.
+  virtual void Run_Modal(Form& form) = 0;
+
+  /// Reports the events that are pending and paints what has changed.
+  virtual void Let_Events_Run() = 0;
+
+  /// Asks or tells the user, and waits for the answer. `title` and `text` are bytes of the current
+  /// language's code page; carriage returns and line feeds end a line.
+  virtual MessageAnswer Message(const std::string& title, const std::string& text, MessageIcon icon,
+                                MessageButtons buttons) = 0;
+
+  /// Tells the user that the program ends with a runtime error, and waits until it was read.
+  virtual void Runtime_Error(int number, const std::string& words) = 0;
+};
+
+}  // namespace norvane

@@ -1,0 +1,81 @@
+#include "calc/heat_loss.h"
+#include "frame/shared_state.h"
+#include "screen/warmt.h"
+
+namespace norvane {
+namespace {
+
+float Metres(const TextField& millimetres) { return To_Single(Val(millimetres.Text()) / 1000.0); }
+
+HeatLossInput Read_Input(Module1& module1, Warmt& warmt) {
+  HeatLossInput input;
+  input.raw_T_med = Val(warmt.txtT(0).Text());
+  input.raw_T_amb = Val(warmt.txtT(1).Text());
+  input.T_med = To_Int16(input.raw_T_med);
+  input.T_amb = To_Int16(input.raw_T_amb);
+  input.d_ins = Metres(warmt.txtT(2));
+  if (module1.Sel_Size != kSheet) input.D_pipe = Metres(warmt.txtT(3));
+  input.alpha_text = warmt.Text4(1).Text();
+  input.Sel_Size = module1.Sel_Size;
+  input.Lambda = module1.Lambda;
+  input.Hr_Day = module1.Hr_Day;
+  input.Days = module1.Days;
+  input.Mtrs = module1.Mtrs;
+  return input;
+}
+
+void Show_Savings(Warmt& warmt, const std::optional<Savings>& savings, const Locale& locale) {
+  if (!savings) {
+    // The percentage stays that of the calculation before.
+    for (int i = 6; i <= 9; ++i) warmt.Label4(i).Set_Caption(Format(0, locale));
+    return;
+  }
+  constexpr const char* kMask = "####0.00";
+  warmt.Label4(6).Set_Caption(Format(savings->difference, kMask, locale));
+  warmt.Label4(5).Set_Caption(Format(savings->Saving_Pct, locale) + "%");
+  warmt.Label4(7).Set_Caption(Format(savings->gas, kMask, locale));
+  warmt.Label4(8).Set_Caption(Format(savings->oil, kMask, locale));
+  warmt.Label4(9).Set_Caption(Format(savings->electricity, kMask, locale));
+}
+
+}  // namespace
+
+void Warmt::Bereken_Warmt() {
+  Show_Mode(true);
+  txtT(1).Set_Locked(false);
+  txtT(1).Set_BackColor(kSystemWindow);
+  txtT(2).Set_BackColor(kSystemWindow);
+  txtT(2).Set_Bold(false);
+  if (First_Warmt) Warmt_Defaults();
+
+  const HeatLossResult result = Heat_Loss(Read_Input(module1_, *this), module1_.Locale());
+  module1_.Alpha = result.Alpha;
+  constexpr int kPipeTexts[] = {29, 48, 49, 51};
+  constexpr int kSheetTexts[] = {52, 53, 54, 55};
+  for (int i = 0; i < 4; ++i) {
+    Label3(5 + i).Set_Caption(module1_.Text((Shows_Sheet() ? kSheetTexts : kPipeTexts)[i]));
+  }
+
+  const norvane::Locale locale = module1_.Locale();
+  Show_Lambda_And_Alpha(result.lambda_T);
+  Label4(2).Set_Caption(Format(result.T_surf, "##0.0", locale));
+  Label4(3).Set_Caption(Format(result.Q_bare, "####0.0", locale));
+  Label4(4).Set_Caption(Format(result.Q_ins, "####0.0", locale));
+  Show_Savings(*this, result.savings, locale);
+  Label6.Set_Caption(Saving_Heading());
+  GetPic(module1_.Sel_Size, To_Int16(Val(txtT(2).Text())));
+}
+
+void Warmt::Warmt_Defaults() {
+  // A temperature of 0 is taken for an empty field.
+  Default_Temperature(0, txtT(0), 80);
+  Default_Temperature(1, txtT(1), 15);
+  txtT(2).Set_Text(Format(0, module1_.Locale()));
+  Text2(2).Set_Caption("");
+  Text2(2).Set_Visible(false);
+  Label8(2).Set_Visible(false);
+  Default_Diameter(txtT(3));
+  First_Warmt = false;
+}
+
+}  // namespace norvane

@@ -1,0 +1,155 @@
+#include <algorithm>
+#include <cmath>
+
+#include "calc/sizes.h"
+#include "data/runtime_error.h"
+#include "frame/shared_state.h"
+#include "screen/limits.h"
+#include "screen/warmt.h"
+
+namespace norvane {
+namespace {
+
+constexpr double kTemperatureStep = 5;  // degrees Celsius
+constexpr double kMeanLimit = 105;      // degrees Celsius
+constexpr int kFirstHumidity = 3;       // the columns before it hold no humidity
+
+/// The next index on a ring of `first` to the last of `list`.
+std::int16_t Next_On_Ring(std::int16_t index, int direction, int first,
+                          const std::vector<double>& list) {
+  const int last = static_cast<int>(list.size()) - 1;
+  const std::int16_t next = To_Int16(index + direction);
+  if (direction < 0) return next < first ? static_cast<std::int16_t>(last) : next;
+  return next > last ? static_cast<std::int16_t>(first) : next;
+}
+
+double Entry_Of(const std::vector<double>& list, int index) {
+  if (index < 0 || index >= static_cast<int>(list.size())) {
+    throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
+  }
+  return list[static_cast<std::size_t>(index)];
+}
+
+}  // namespace
+
+// A text that a down click writes runs the field's whole handler, with its limits and a
+// calculation; one that an up click writes only runs its conversion, as the flag is set.
+
+void Warmt::DownClick(int Index) {
+  Step(Index, Spin::kDown);
+  Close_Step();
+}
+
+void Warmt::UpClick(int Index) {
+  if (txtT(3).Visible() && Val(txtT(3).Text()) < kLeastDiameter) {
+    module1_.desk.Set_Focus(txtT(3));
+    Init_results();
+    return;
+  }
+  Calc_Busy = true;
+  Step(Index, Spin::kUp);
+  Close_Step();
+}
+
+void Warmt::Close_Step() {
+  Bereken();
+  Calc_Busy = false;
+}
+
+void Warmt::Step(int Index, Spin spin) {
+  switch (Index) {
+    case 0:
+      Step_Temperature(0, spin);
+      break;
+    case 1:
+      if (Calc_Mode == "T") {
+        Step_Temperature(1, spin);
+      } else {
+        Step_Dew_Temperature(spin);
+      }
+      break;
+    case 2:
+      Step_Thickness(spin);
+      break;
+    case 3:
+      Step_Diameter(spin);
+      break;
+    case 4:
+      Step_Humidity(spin);
+      break;
+    case 5:
+      Step_Length(spin);
+      break;
+    default:
+      break;
+  }
+}
+
+void Warmt::Step_Temperature(int Index, Spin spin) {
+  FieldArray<TextField>& F = Mode_Fields();
+  const double v = Val(F(Index).Text());
+  const double o = Val(F(1 - Index).Text());
+  // The old value is what has to lie inside the range, so that an up click can pass its end.
+  const Limits& range = kTemperatureLimits[Index];
+  const bool starts = spin == Spin::kDown ? v > range.least : v < range.most;
+  const double stepped = v + static_cast<int>(spin) * kTemperatureStep;
+  if (!starts || std::abs(stepped + o) / 2 >= kMeanLimit) return;
+  F(Index).Set_Text(Format(stepped, module1_.Locale()));
+  Show_Fahrenheit(Index, F(Index));
+}
+
+void Warmt::Step_Dew_Temperature(Spin spin) {
+  Idx_A1 = Next_On_Ring(Idx_A1, static_cast<int>(spin), 1, Dew_Temps);
+  txtC(1).Set_Text(Format(Entry_Of(Dew_Temps, Idx_A1), module1_.Locale()));
+  if (spin == Spin::kDown) Show_Fahrenheit(1, txtC(1));
+}
+
+void Warmt::Step_Thickness(Spin spin) {
+  const auto steps = Thick_Steps();
+  const double now = Val(txtT(2).Text());
+  const auto step_to = [&](std::int16_t mm) {
+    txtT(2).Set_Text(Format(mm, module1_.Locale()));
+    Show_Inch_Of_Thickness(txtT(2));
+  };
+  if (spin == Spin::kDown) {
+    const auto below =
+        std::find_if(steps.rbegin(), steps.rend(), [&](auto mm) { return mm < now; });
+    if (below != steps.rend()) step_to(*below);
+  } else {
+    const auto above = std::find_if(steps.begin(), steps.end(), [&](auto mm) { return mm > now; });
+    if (above != steps.end()) step_to(*above);
+  }
+}
+
+void Warmt::Step_Diameter(Spin spin) {
+  TextField& field = Mode_Fields()(3);
+  const auto sizes = Pipe_Sizes(module1_.Sel_Size);
+  for (std::size_t n = 0; n < sizes.size(); ++n) {
+    const int mm = sizes[spin == Spin::kDown ? sizes.size() - 1 - n : n].mm;
+    const double now = Val(field.Text());
+    if (spin == Spin::kDown ? mm < now : mm > now) {
+      field.Set_Text(Format(mm, module1_.Locale()));
+      Show_Inch_Of_Diameter(field);
+      return;
+    }
+    // On the sizes passed by, not behind the step: the shown inch text lags one up click behind.
+    Show_Or_Hide_Inch(3);
+  }
+}
+
+void Warmt::Step_Humidity(Spin spin) {
+  Idx_A4 = Next_On_Ring(Idx_A4, static_cast<int>(spin), kFirstHumidity, Dew_Hums);
+  txtC(4).Set_Text(Format(Entry_Of(Dew_Hums, Idx_A4), module1_.Locale()));
+}
+
+void Warmt::Step_Length(Spin spin) {
+  const norvane::Locale locale = module1_.Locale();
+  txtmtrs.Set_Text(Format(Val(txtmtrs.Text()) + static_cast<int>(spin), locale));
+  if (spin == Spin::kDown) {
+    if (Val(txtmtrs.Text()) == 0) txtmtrs.Set_Text("1");
+  } else {
+    if (Val(txtmtrs.Text()) == 10001) txtmtrs.Set_Text("10000");
+  }
+}
+
+}  // namespace norvane

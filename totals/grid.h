@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "screen/field_model.h"
+
+namespace norvane {
+
+/// A grid of text cells whose row 0 holds the captions. The current row and the row where the
+/// selection ends are told apart; both are 0 when nothing is selected.
+class Grid : public Field {
+ public:
+  using Field::Field;
+
+  int Rows() const { return static_cast<int>(rows_.size()); }
+  int Cols() const { return static_cast<int>(column_widths_.size()); }
+
+  /// The cell's text, empty where a row has no such cell. Throws `RuntimeError` 9 outside the grid.
+  const std::string& Cell(int row, int column) const;
+  double ColWidth(int column) const;  ///< twips
+
+  int Row() const { return row_; }
+  int RowSel() const { return row_sel_; }
+  /// Makes a row the current one, and the selection to end there.
+  void Set_Row(int row);
+
+  /// Throws all away but an empty caption row, with a column for each width.
+  void Start(std::vector<std::string> captions, std::vector<double> column_widths);
+  /// Appends a row, a cell for each tab-separated part of the text.
+  void Add_Item(const std::string& text);
+
+  /// The user drags over rows and lets the mouse go.
+  void Pick_Rows(int from, int to);
+  std::function<void()> On_Mouse_Up;
+
+ private:
+  std::vector<std::vector<std::string>> rows_;
+  std::vector<double> column_widths_;
+  int row_ = 0;
+  int row_sel_ = 0;
+};
+
+/// The parts of a text between separators; an empty text has none.
+std::vector<std::string> Split(const std::string& text, char separator);
+
+}  // namespace norvane
