@@ -1,0 +1,43 @@
+#include "desktop/address_view.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace norvane {
+
+AddressView::AddressView(Desktop& desktop, Address& address) : FormView(desktop, address) {
+  auto* page = new QGridLayout(this);
+  page->setContentsMargins(12, 8, 10, 12);
+  page->setColumnStretch(0, 1);
+  auto* heading = new QLabel;
+  page->addWidget(heading, 0, 0);
+  Bind<CaptionBinder>(address.Label1, *heading);
+  auto* exit = new QToolButton;
+  exit->setAutoRaise(true);
+  exit->setText(QChar(0x2715));
+  exit->setFocusPolicy(Qt::NoFocus);
+  page->addWidget(exit, 0, 1, Qt::AlignRight);
+  Bind<PictureBinder>(address.imgExit, *exit);
+  auto* list = new QListWidget;
+  list->setSelectionMode(QAbstractItemView::NoSelection);
+  page->addWidget(list, 1, 0, 1, 2);
+  Bind<ListBinder>(address.List1, *list);
+  auto* ok = new QPushButton;
+  ok->setDefault(true);
+  page->addWidget(ok, 2, 1, Qt::AlignRight);
+  Bind<ButtonBinder>(address.OK, *ok);
+}
+
+void AddressView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    Play(UserAction::kCloseBox);
+    return;
+  }
+  FormView::keyPressEvent(event);
+}
+
+}  // namespace norvane

@@ -1,0 +1,45 @@
+#include "desktop/busy.h"
+
+#include <QApplication>
+
+#include "frame/version.h"
+
+namespace norvane {
+namespace {
+
+constexpr int kLongList = 2000;  // rows; fewer are written before anybody could read
+
+}  // namespace
+
+void Busy::Wait_A_Moment() {
+  if (!pointer_shown_) QApplication::setOverrideCursor(Qt::BusyCursor);
+  pointer_shown_ = true;
+  // No event of the user: the program is in the middle of one.
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void Busy::Progress(int done, int total) {
+  if (total < kLongList) {
+    progress_.reset();
+    return;
+  }
+  if (!progress_) {
+    progress_ = std::make_unique<QProgressDialog>(QApplication::activeWindow());
+    progress_->setWindowTitle(kTitle);
+    progress_->setCancelButton(nullptr);
+    progress_->setMinimumDuration(0);
+    progress_->setWindowModality(Qt::ApplicationModal);
+  }
+  progress_->setMaximum(total);
+  progress_->setLabelText(QString("%1 / %2").arg(done).arg(total));
+  progress_->setValue(done);
+  Wait_A_Moment();
+}
+
+void Busy::End() {
+  progress_.reset();
+  if (pointer_shown_) QApplication::restoreOverrideCursor();
+  pointer_shown_ = false;
+}
+
+}  // namespace norvane

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QProgressDialog>
+#include <memory>
+
+#include "spreadsheet/waiting.h"
+
+namespace norvane {
+
+/// What the user sees while the spreadsheet program takes its time: windows that stay painted, the
+/// busy pointer, and how far a long list has come.
+class Busy : public SpreadsheetWaiting {
+ public:
+  ~Busy() override { End(); }
+
+  void Wait_A_Moment() override;
+  void Progress(int done, int total) override;
+
+  /// The waiting is over.
+  void End();
+
+ private:
+  bool pointer_shown_ = false;
+  std::unique_ptr<QProgressDialog> progress_;
+};
+
+}  // namespace norvane

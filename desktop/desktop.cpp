@@ -1,0 +1,201 @@
+#include "desktop/desktop.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QFontDatabase>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QWindow>
+
+#include "calc/conversions.h"
+#include "data/runtime_error.h"
+#include "desktop/form_view.h"
+#include "desktop/twips.h"
+#include "desktop/views.h"
+#include "frame/version.h"
+#include "host/code_page.h"
+#include "spreadsheet/make_spreadsheet.h"
+#include "totals/calculation_list.h"
+
+namespace norvane {
+namespace {
+
+constexpr int kExitAfterRuntimeError = 3;
+
+QMessageBox::Icon Icon_Of(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::kInformation:
+      return QMessageBox::Information;
+    case MessageIcon::kExclamation:
+      return QMessageBox::Warning;
+    case MessageIcon::kQuestion:
+      return QMessageBox::Question;
+    case MessageIcon::kNone:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+Desktop::Desktop(const std::filesystem::path& folder)
+    : files_(folder), spreadsheet_(Make_Spreadsheet(folder, busy_)), program_(*this) {}
+
+Desktop::~Desktop() {
+  for (const auto& [form, view] : views_) {
+    view->Detach();
+    delete view;
+  }
+}
+
+char Desktop::Decimal_Separator() const {
+  // The program knows two spellings; any other sign is read and written as a point.
+  return QLocale().decimalPoint() == QLatin1String(",") ? ',' : '.';
+}
+
+std::optional<std::vector<std::string>> Desktop::Font_Names() const {
+  std::vector<std::string> names{"Arial"};  // stands for whatever the font mapper gives for it
+  for (const QString& family : QFontDatabase::families()) names.push_back(family.toStdString());
+  return names;
+}
+
+DisplaySize Desktop::Screen_Size() const {
+  const QSize size = QGuiApplication::primaryScreen()->availableSize();
+  return {To_Twips(size.width()), To_Twips(size.height())};
+}
+
+void Desktop::Form_Loaded(Form& form) { views_[&form] = Make_View(*this, form); }
+
+void Desktop::Form_Unloaded(Form& form) {
+  const auto entry = views_.find(&form);
+  FormView* view = entry->second;
+  views_.erase(entry);
+  // The view may be in the middle of an event of its own.
+  view->Detach();
+  view->hide();
+  view->deleteLater();
+}
+
+FormView* Desktop::View_Of(const Form& form) const {
+  const auto entry = views_.find(&form);
+  return entry == views_.end() ? nullptr : entry->second;
+}
+
+void Desktop::Run_Modal(Form& form) {
+  QEventLoop loop;
+  View_Of(form)->Show_Modal(loop);
+  Show_Changes();
+  if (form.Shown() && !program_.Ended()) loop.exec();
+  // The end of the program leaves the loop with the form still there.
+  if (FormView* view = View_Of(form)) view->Leave_Modal();
+}
+
+void Desktop::Let_Events_Run() {
+  Show_Changes();
+  // A window that was just shown can paint only when the display server has exposed it.
+  constexpr int kPatience = 300;  // milliseconds
+  const QDeadlineTimer patience(kPatience);
+  const auto exposed = [this] {
+    const QWidget* front = Front_Window();
+    return front == nullptr || !front->isVisible() || front->windowHandle()->isExposed();
+  };
+  while (!exposed() && !patience.hasExpired()) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 10);
+  }
+  QCoreApplication::processEvents();
+}
+
+void Desktop::Start() {
+  program_.Main();
+  After_Program_Call();
+}
+
+void Desktop::Play(const UserEvent& event) {
+  program_.Play(event);
+  After_Program_Call();
+}
+
+void Desktop::Tick(TickTimer& timer) {
+  program_.Tick(timer);
+  After_Program_Call();
+}
+
+void Desktop::After_Program_Call() {
+  busy_.End();
+  if (program_.Ended()) {
+    for (const auto& [form, view] : views_) view->hide();
+    QCoreApplication::exit(program_.Failed() ? kExitAfterRuntimeError : 0);
+    return;
+  }
+  Show_Changes();
+}
+
+void Desktop::Show_Changes() {
+  // Showing a window may load or unload nothing, but it may report events that do.
+  std::vector<FormView*> views;
+  for (const auto& [form, view] : views_) views.push_back(view);
+  for (FormView* view : views) view->Show_Changes();
+}
+
+int Desktop::Current_Charset() const {
+  const Module1& module1 = const_cast<Program&>(program_).State();
+  const auto slot = static_cast<std::size_t>(module1.Lang_Index);
+  const auto& charset = module1.languages.Lang_Charset[slot];
+  try {
+    return charset ? To_Int16(To_Number(*charset, module1.Locale())) : 0;
+  } catch (const RuntimeError&) {
+    return 0;
+  }
+}
+
+QString Desktop::Text(const std::string& bytes) const {
+  return QString::fromStdString(To_Utf8(bytes, Current_Charset()));
+}
+
+QWidget* Desktop::Front_Window() const {
+  const Form* active = const_cast<Program&>(program_).State().desk.Active();
+  return active == nullptr ? nullptr : View_Of(*active);
+}
+
+MessageAnswer Desktop::Message(const std::string& title, const std::string& text, MessageIcon icon,
+                               MessageButtons buttons) {
+  Show_Changes();
+  QString lines = Text(text);
+  lines.replace("\r\n", "\n").replace('\r', '\n');
+  const bool yes_no = buttons == MessageButtons::kYesNo;
+  QMessageBox box(
+      Icon_Of(icon), Text(title), lines,
+      yes_no ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok),
+      Front_Window());
+  box.setTextFormat(Qt::PlainText);
+  if (yes_no) box.setEscapeButton(QMessageBox::No);
+  const int answer = box.exec();
+  if (!yes_no) return MessageAnswer::kOk;
+  return answer == QMessageBox::Yes ? MessageAnswer::kYes : MessageAnswer::kNo;
+}
+
+void Desktop::Runtime_Error(int number, const std::string& words) {
+  const QString text =
+      QString("Run-time error '%1':\n\n%2").arg(number).arg(QString::fromStdString(words));
+  QMessageBox box(QMessageBox::Critical, kTitle, text, QMessageBox::Ok, Front_Window());
+  box.setTextFormat(Qt::PlainText);
+  // The program ends, but the user's lines need not be lost with it.
+  QPushButton* copy = nullptr;
+  if (Has_Saved_Lines(program_.State())) {
+    copy = box.addButton("Copy saved lines", QMessageBox::ActionRole);
+  }
+  box.exec();
+  if (copy != nullptr && box.clickedButton() == copy) Copy_Saved_Lines();
+}
+
+void Desktop::Copy_Saved_Lines() {
+  QApplication::clipboard()->setText(Text(Saved_Lines_As_Text(program_.State())));
+  // The clipboard of this process goes with it; whoever keeps clipboards gets it before.
+  QCoreApplication::processEvents();
+}
+
+}  // namespace norvane

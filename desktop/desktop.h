@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QEventLoop>
+#include <QString>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "desktop/busy.h"
+#include "frame/program.h"
+#include "host/disk_files.h"
+#include "platform/platform.h"
+
+namespace norvane {
+
+class FormView;
+
+/// The user's desktop as the platform of a program: a window for every loaded form, message boxes,
+/// the fonts and the locale of the system. It draws what the forms say and tells the program what
+/// the user does; it decides nothing.
+class Desktop : public Platform, public Display {
+ public:
+  explicit Desktop(const std::filesystem::path& folder);
+  ~Desktop() override;
+
+  Display& display() override { return *this; }
+  Files& files() override { return files_; }
+  Spreadsheet& spreadsheet() override { return *spreadsheet_; }
+  char Decimal_Separator() const override;
+  std::optional<std::vector<std::string>> Font_Names() const override;
+
+  DisplaySize Screen_Size() const override;
+  void Form_Loaded(Form& form) override;
+  void Form_Unloaded(Form& form) override;
+  void Run_Modal(Form& form) override;
+  void Let_Events_Run() override;
+  MessageAnswer Message(const std::string& title, const std::string& text, MessageIcon icon,
+                        MessageButtons buttons) override;
+  void Runtime_Error(int number, const std::string& words) override;
+
+  /// Starts the program.
+  void Start();
+  /// Carries out what the user did and shows what came of it.
+  void Play(const UserEvent& event);
+  void Tick(TickTimer& timer);
+  /// Brings all windows up to date with their forms.
+  void Show_Changes();
+
+  Program& program() { return program_; }
+  /// The window of a form, or null while the form isn't loaded.
+  FormView* View_Of(const Form& form) const;
+
+  /// The character set of texts that have none of their own.
+  int Current_Charset() const;
+  QString Text(const std::string& bytes) const;
+
+ private:
+  void After_Program_Call();
+  void Copy_Saved_Lines();
+  QWidget* Front_Window() const;
+
+  DiskFiles files_;
+  Busy busy_;
+  std::unique_ptr<Spreadsheet> spreadsheet_;
+  std::unordered_map<const Form*, FormView*> views_;
+  Program program_;
+};
+
+}  // namespace norvane

@@ -1,0 +1,159 @@
+#include "desktop/form_view.h"
+
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <QTimer>
+#include <utility>
+
+#include "desktop/desktop.h"
+#include "desktop/twips.h"
+#include "host/code_page.h"
+
+namespace norvane {
+
+FormView::FormView(Desktop& desktop, Form& form) : desktop_(desktop), form_(&form) {
+  form.Set_Observer(this);
+  setMouseTracking(true);
+}
+
+FormView::~FormView() { Detach(); }
+
+void FormView::Detach() {
+  if (form_ == nullptr) return;
+  form_->Set_Observer(nullptr);
+  form_ = nullptr;
+  changed_.clear();
+  focused_ = nullptr;
+  if (modal_loop_ != nullptr) modal_loop_->quit();
+  modal_loop_ = nullptr;
+}
+
+void FormView::Keep(std::unique_ptr<Binder> binder) {
+  binder_of_[&binder->BoundField()] = binder.get();
+  Note_Change(*binder);
+  binders_.push_back(std::move(binder));
+}
+
+QWidget* FormView::Widget_Of(const Field& field) const {
+  const auto entry = binder_of_.find(&field);
+  return entry == binder_of_.end() ? nullptr : entry->second->Widget();
+}
+
+void FormView::Field_Changed(Field& field, Attribute attribute) {
+  if (attribute == Attribute::kFocus) {
+    focused_ = &field;
+    return;
+  }
+  if (attribute == Attribute::kTab) {
+    // The fields of the tabs come and go with the one in front.
+    for (const auto& binder : binders_) Note_Change(*binder);
+    return;
+  }
+  const auto entry = binder_of_.find(&field);
+  if (entry != binder_of_.end()) Note_Change(*entry->second);
+}
+
+void FormView::Note_Change(Binder& binder) {
+  if (binder.Mark_Changed()) changed_.push_back(&binder);
+}
+
+void FormView::Form_Changed(FormAttribute attribute) {
+  form_changed_ = true;
+  if (attribute == FormAttribute::kActive) brought_to_front_ = true;
+  if (attribute == FormAttribute::kShown && !form_->Shown() && modal_loop_ != nullptr) {
+    modal_loop_->quit();
+    modal_loop_ = nullptr;
+  }
+}
+
+void FormView::Show_Changes() {
+  if (form_ == nullptr || (changed_.empty() && !form_changed_ && focused_ == nullptr)) return;
+  for (Binder* binder : std::exchange(changed_, {})) binder->Update();
+  Arrange();
+  if (std::exchange(form_changed_, false)) Show_Window();
+  if (form_ == nullptr) return;
+  if (const Field* focused = std::exchange(focused_, nullptr)) {
+    if (QWidget* widget = Widget_Of(*focused)) widget->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+void FormView::Show_Window() {
+  setWindowTitle(desktop_.Text(form_->Caption()));
+  setCursor(form_->MousePointer() == MousePointer::kHourglass ? Qt::WaitCursor : Qt::ArrowCursor);
+  if (form_->Shown() && !isVisible()) {
+    Place_Window();
+    show();
+  } else if (!form_->Shown() && isVisible()) {
+    hide();
+  }
+  // Not for a window that the user has just activated: two that ask by turns would never rest.
+  if (std::exchange(brought_to_front_, false) && isVisible() && !isActiveWindow()) {
+    raise();
+    activateWindow();
+  }
+}
+
+void FormView::Place_Window() {
+  const Place& place = form_->Place();
+  const QSize wanted =
+      QSize(To_Pixels(place.width), To_Pixels(place.height)).expandedTo(minimumSizeHint());
+  resize(wanted);
+  // A window that needs more than its form's size keeps the middle that the form gives it.
+  move(To_Pixels(place.left + place.width / 2) - wanted.width() / 2,
+       To_Pixels(place.top + place.height / 2) - wanted.height() / 2);
+}
+
+void FormView::Show_Modal(QEventLoop& loop) {
+  modal_loop_ = &loop;
+  setWindowModality(Qt::ApplicationModal);
+}
+
+void FormView::Play(UserAction action, Field& field, int first, int last) {
+  if (form_ == nullptr) return;
+  UserEvent event{action, *form_, &field};
+  event.first = first;
+  event.last = last;
+  desktop_.Play(event);
+}
+
+void FormView::Play_Text(Field& field, const QString& text) {
+  if (form_ == nullptr) return;
+  UserEvent event{UserAction::kSetText, *form_, &field};
+  event.text =
+      From_Utf8(text.toStdString(), field.Font().charset.value_or(desktop_.Current_Charset()));
+  desktop_.Play(event);
+}
+
+void FormView::Play(UserAction action) {
+  if (form_ != nullptr) desktop_.Play({action, *form_});
+}
+
+void FormView::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  Play(UserAction::kCloseBox);
+}
+
+void FormView::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) Play(UserAction::kActivate);
+}
+
+void FormView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  // Later, since a window is also resized while the program's changes are being shown.
+  QTimer::singleShot(0, this, [this] {
+    if (form_ == nullptr || !form_->Shown()) return;
+    UserEvent resized{UserAction::kResize, *form_};
+    resized.width = To_Twips(width());
+    resized.height = To_Twips(height());
+    if (resized.width == form_->Place().width && resized.height == form_->Place().height) return;
+    desktop_.Play(resized);
+  });
+}
+
+void FormView::mouseMoveEvent(QMouseEvent* event) {
+  QWidget::mouseMoveEvent(event);
+  Play(UserAction::kHover);
+}
+
+}  // namespace norvane

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QEventLoop>
+#include <QWidget>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "desktop/binder.h"
+#include "screen/form.h"
+
+namespace norvane {
+
+class Desktop;
+
+/// The window of a form. Changes of its fields are collected while handlers run and shown together
+/// when the program has answered an event, so a field is painted once however often it changed.
+class FormView : public QWidget, public FormObserver {
+ public:
+  FormView(Desktop& desktop, Form& form);
+  ~FormView() override;
+
+  void Field_Changed(Field& field, Attribute attribute) override;
+  void Form_Changed(FormAttribute attribute) override;
+
+  /// Brings window and widgets up to date.
+  void Show_Changes();
+  /// The window alone takes the user's events until its form is hidden; `loop` ends then.
+  void Show_Modal(QEventLoop& loop);
+  void Leave_Modal() { modal_loop_ = nullptr; }
+  /// The form is about to go; nothing of it is touched any more.
+  void Detach();
+
+  /// Gives a field to a binder, which keeps its widget up to date.
+  template <class T, class... Arguments>
+  T& Bind(Arguments&&... arguments) {
+    auto binder = std::make_unique<T>(*this, std::forward<Arguments>(arguments)...);
+    T& bound = *binder;
+    Keep(std::move(binder));
+    return bound;
+  }
+
+  /// The widget of a field, or null when it has none here.
+  QWidget* Widget_Of(const Field& field) const;
+
+  /// Tells the program what the user does with a field, or with the form itself.
+  void Play(UserAction action, Field& field, int first = 0, int last = 0);
+  void Play_Text(Field& field, const QString& text);
+  void Play(UserAction action);
+
+  Desktop& desktop() const { return desktop_; }
+  Form* form() const { return form_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+  /// Called when all widgets are up to date, for what depends on several of them.
+  virtual void Arrange() {}
+  /// Puts the window to its place on the screen before it is shown.
+  virtual void Place_Window();
+
+ private:
+  void Keep(std::unique_ptr<Binder> binder);
+  void Note_Change(Binder& binder);
+  void Show_Window();
+
+  Desktop& desktop_;
+  Form* form_;
+  std::vector<std::unique_ptr<Binder>> binders_;
+  std::unordered_map<const Field*, Binder*> binder_of_;
+  std::vector<Binder*> changed_;
+  Field* focused_ = nullptr;
+  bool form_changed_ = true;
+  bool brought_to_front_ = false;
+  QEventLoop* modal_loop_ = nullptr;
+};
+
+}  // namespace norvane

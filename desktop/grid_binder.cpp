@@ -1,0 +1,115 @@
+#include "desktop/grid_binder.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QTableView>
+#include <algorithm>
+
+#include "desktop/form_view.h"
+#include "desktop/table_events.h"
+#include "desktop/twips.h"
+
+namespace norvane {
+namespace {
+
+// The columns that hold words; numbers stand in all others.
+constexpr int kLastWordColumn = 2;
+
+/// The rows of the selection, from the one where it began to the one where it ends.
+std::pair<int, int> Selected_Rows(const QTableView& table) {
+  const QModelIndexList rows = table.selectionModel()->selectedRows();
+  if (rows.isEmpty()) return {-1, -1};
+  const auto [low, high] = std::minmax_element(
+      rows.begin(), rows.end(), [](const auto& a, const auto& b) { return a.row() < b.row(); });
+  const int end = table.currentIndex().row();
+  return end == low->row() ? std::pair(high->row(), low->row())
+                           : std::pair(low->row(), high->row());
+}
+
+}  // namespace
+
+GridModel::GridModel(const Grid& grid, std::function<QString(const std::string&)> shown)
+    : grid_(grid), shown_(std::move(shown)) {}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : std::max(grid_.Rows() - 1, 0);
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : grid_.Cols();
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+  // A line can have gone while its repaint was still to come.
+  if (index.row() + 1 >= grid_.Rows() || index.column() >= grid_.Cols()) return {};
+  if (role == Qt::TextAlignmentRole) {
+    return int(Qt::AlignVCenter |
+               (index.column() > kLastWordColumn ? Qt::AlignRight : Qt::AlignLeft));
+  }
+  if (role != Qt::DisplayRole) return {};
+  return shown_(grid_.Cell(index.row() + 1, index.column()));
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || grid_.Rows() == 0 || section >= grid_.Cols()) return {};
+  if (role == Qt::TextAlignmentRole) return int(Qt::AlignLeft | Qt::AlignVCenter);
+  if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+  return shown_(grid_.Cell(0, section));
+}
+
+void GridModel::Reset() {
+  beginResetModel();
+  endResetModel();
+}
+
+GridBinder::GridBinder(FormView& view, Grid& field, QTableView& table)
+    : Binder(view, field, table),
+      field_(field),
+      table_(table),
+      model_(field, [this](const std::string& bytes) { return Shown(bytes); }) {
+  table.setModel(&model_);
+  table.setSelectionBehavior(QAbstractItemView::SelectRows);
+  table.setSelectionMode(QAbstractItemView::ContiguousSelection);
+  table.verticalHeader()->hide();
+  table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  table.setWordWrap(false);
+  auto* events = new TableEvents(table);
+  QObject::connect(events, &TableEvents::Picked, &table, [this] { Pick(); });
+  QObject::connect(events, &TableEvents::Copy_Asked, &table, [this] { Copy(); });
+}
+
+void GridBinder::Show_Field() {
+  Show_Font();
+  const int columns = table_.horizontalHeader()->count();
+  model_.Reset();
+  // Widths that the user has dragged stay while the columns do.
+  if (columns != field_.Cols()) {
+    for (int i = 0; i < field_.Cols(); ++i) table_.setColumnWidth(i, To_Pixels(field_.ColWidth(i)));
+  }
+  table_.verticalHeader()->setDefaultSectionSize(table_.fontMetrics().height() + 8);
+  table_.clearSelection();
+  if (field_.Row() > 0) table_.setCurrentIndex(model_.index(field_.Row() - 1, 0));
+}
+
+void GridBinder::Pick() {
+  const auto [from, to] = Selected_Rows(table_);
+  if (from >= 0) Play(UserAction::kPickRows, from + 1, to + 1);
+}
+
+void GridBinder::Copy() const {
+  const auto [from, to] = Selected_Rows(table_);
+  if (from < 0) return;
+  QStringList lines;
+  for (int row = std::min(from, to); row <= std::max(from, to); ++row) {
+    QStringList cells;
+    for (int column = 1; column < model_.columnCount(); ++column) {
+      cells << model_.index(row, column).data().toString();
+    }
+    lines << cells.join('\t');
+  }
+  QApplication::clipboard()->setText(lines.join('\n') + '\n');
+}
+
+}  // namespace norvane

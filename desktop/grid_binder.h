@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "desktop/binder.h"
+#include "totals/grid.h"
+
+class QTableView;
+
+namespace norvane {
+
+/// The cells of a grid as Qt's views read them; its caption row is their header.
+class GridModel : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  GridModel(const Grid& grid, std::function<QString(const std::string&)> shown);
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  void Reset();
+
+ private:
+  const Grid& grid_;
+  std::function<QString(const std::string&)> shown_;
+};
+
+/// A grid as a table whose rows are picked by mouse or keyboard; letting the mouse go, or Delete,
+/// is the pick that the program hears of.
+class GridBinder : public Binder {
+ public:
+  GridBinder(FormView& view, Grid& field, QTableView& table);
+
+ protected:
+  void Show_Field() override;
+
+ private:
+  void Pick();
+  void Copy() const;
+
+  Grid& field_;
+  QTableView& table_;
+  GridModel model_;
+};
+
+}  // namespace norvane

@@ -1,0 +1,85 @@
+#include "desktop/language_view.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QToolButton>
+
+#include "desktop/background.h"
+
+namespace norvane {
+namespace {
+
+constexpr int kEntryHeight = 29;
+constexpr int kNameWidth = 104;
+constexpr int kShownEntries = 14;  // the others have no version field and fall off the form
+
+}  // namespace
+
+LanguageView::LanguageView(Desktop& desktop, Lang& lang) : FormView(desktop, lang) {
+  // The ground is light under every theme of the desktop.
+  setPalette(QPalette(QColor(228, 238, 218)));
+  auto* page = new QGridLayout(this);
+  page->setContentsMargins(18, 8, 10, 18);
+  auto* heading = new QLabel;
+  page->addWidget(heading, 0, 0);
+  Bind<CaptionBinder>(lang.Label1, *heading);
+  auto* exit = new QToolButton;
+  exit->setAutoRaise(true);
+  exit->setText(QChar(0x2715));
+  exit->setFocusPolicy(Qt::NoFocus);
+  page->addWidget(exit, 0, 1, Qt::AlignRight);
+  Bind<PictureBinder>(lang.imgExit, *exit);
+
+  auto* entries = new QGridLayout;
+  for (int i = 0; i < kShownEntries; ++i) entries->addWidget(Make_Entry(lang, i), i / 2, i % 2);
+  page->addLayout(entries, 1, 0, 1, 2);
+  page->setRowStretch(2, 1);
+  auto* ok = new QPushButton;
+  ok->setDefault(true);
+  page->addWidget(ok, 3, 1, Qt::AlignRight);
+  Bind<ButtonBinder>(lang.OK, *ok);
+}
+
+QWidget* LanguageView::Make_Entry(Lang& lang, int index) {
+  auto* entry = new QWidget;
+  entry->setFixedHeight(kEntryHeight);
+  auto* row = new QHBoxLayout(entry);
+  row->setContentsMargins(0, 0, 0, 0);
+  auto* mark = new QLabel(QChar(0x2713));
+  QSizePolicy kept = mark->sizePolicy();
+  kept.setRetainSizeWhenHidden(true);
+  mark->setSizePolicy(kept);
+  row->addWidget(mark);
+  Bind<PictureBinder>(lang.imgCheck(index), *mark);
+  auto* name = new QPushButton;
+  name->setFlat(true);
+  name->setAutoDefault(true);
+  name->setStyleSheet("text-align: left; padding: 2px 6px;");
+  name->setMinimumWidth(kNameWidth);
+  row->addWidget(name);
+  Bind<CaptionButtonBinder>(lang.Label2(index), *name);
+  auto* version = new QLabel;
+  row->addWidget(version);
+  Bind<CaptionBinder>(lang.Label3(index), *version);
+  row->addStretch();
+  return entry;
+}
+
+void LanguageView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  constexpr qreal kBehindNames = 0.12;
+  Draw_Background(painter, size(), kBehindNames);
+}
+
+void LanguageView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    Play(UserAction::kCloseBox);
+    return;
+  }
+  FormView::keyPressEvent(event);
+}
+
+}  // namespace norvane

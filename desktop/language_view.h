@@ -1,0 +1,23 @@
+#pragma once
+
+#include "desktop/form_view.h"
+#include "frame/lang_form.h"
+
+namespace norvane {
+
+/// The list of languages: element i in the left column if i is even, in the right one if it is odd.
+class LanguageView : public FormView {
+  Q_OBJECT
+
+ public:
+  LanguageView(Desktop& desktop, Lang& lang);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QWidget* Make_Entry(Lang& lang, int index);
+};
+
+}  // namespace norvane

@@ -1,0 +1,49 @@
+#include "desktop/number_edit.h"
+
+#include <QKeyEvent>
+#include <QWheelEvent>
+
+namespace norvane {
+namespace {
+
+constexpr int kWheelStep = 120;
+constexpr int kWidthInDigits = 9;
+
+}  // namespace
+
+NumberEdit::NumberEdit(QWidget* parent) : QLineEdit(parent) {
+  setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+QSize NumberEdit::sizeHint() const {
+  const int digit = fontMetrics().horizontalAdvance('0');
+  return {digit * kWidthInDigits + 2 * digit, QLineEdit::sizeHint().height()};
+}
+
+void NumberEdit::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+    emit Stepped(event->key() == Qt::Key_Up ? 1 : -1);
+    return;
+  }
+  if (event->modifiers().testFlag(Qt::KeypadModifier) && event->text() == QLatin1String(",")) {
+    QKeyEvent point(event->type(), Qt::Key_Period, event->modifiers(), QStringLiteral("."));
+    QLineEdit::keyPressEvent(&point);
+    return;
+  }
+  QLineEdit::keyPressEvent(event);
+}
+
+void NumberEdit::wheelEvent(QWheelEvent* event) {
+  if (!hasFocus()) {
+    event->ignore();
+    return;
+  }
+  wheel_turned_ += event->angleDelta().y();
+  for (; wheel_turned_ >= kWheelStep; wheel_turned_ -= kWheelStep) emit Stepped(1);
+  for (; wheel_turned_ <= -kWheelStep; wheel_turned_ += kWheelStep) emit Stepped(-1);
+  event->accept();
+}
+
+void NumberEdit::mouseDoubleClickEvent(QMouseEvent*) { selectAll(); }
+
+}  // namespace norvane

@@ -1,0 +1,99 @@
+#include "desktop/settings_view.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include "desktop/card.h"
+#include "desktop/desktop.h"
+#include "desktop/number_edit.h"
+#include "desktop/spin_arrows.h"
+
+namespace norvane {
+
+SettingsView::SettingsView(Desktop& desktop, Settings& settings)
+    : FormView(desktop, settings), settings_(settings) {
+  setWindowFlags(Qt::Dialog);
+  auto* column = new QVBoxLayout(this);
+  auto* bar = new QTabBar;
+  bar->setExpanding(false);
+  column->addWidget(bar);
+  Bind<TabsBinder>(settings.SSTab1, *bar);
+
+  auto* page = new Card;
+  page->setMinimumHeight(120);
+  auto* grid = new QGridLayout(page);
+  grid->setColumnStretch(3, 1);
+  auto* expressed = new QLabel;
+  grid->addWidget(expressed, 0, 0, 1, 3);
+  Bind<CaptionBinder>(settings.Label7, *expressed);
+  Add_Saving_Row(*grid, 1, settings.Label6(0), settings.Text2(0), settings.UpDown1_0);
+  Add_Saving_Row(*grid, 2, settings.Label6(1), settings.Text2(1), settings.UpDown1_1);
+
+  auto* lambda = new NumberEdit;
+  grid->addWidget(lambda, 3, 1);
+  Bind<TextBinder>(settings.Text1, *lambda);
+
+  for (CaptionField* field : {&settings.Label2, &settings.Label1(0)}) {
+    auto* label = new QLabel;
+    grid->addWidget(label, field == &settings.Label2 ? 4 : 5, 0, 1,
+                    field == &settings.Label2 ? 3 : 1);
+    Bind<CaptionBinder>(*field, *label);
+  }
+  auto* alpha = new NumberEdit;
+  grid->addWidget(alpha, 5, 1);
+  Bind<TextBinder>(settings.Text3, *alpha);
+  grid->setRowStretch(6, 1);
+  column->addWidget(page, 1);
+
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch();
+  for (Button* field : {&settings.Command1, &settings.Command2}) {
+    auto* button = new QPushButton;
+    buttons->addWidget(button);
+    Bind<ButtonBinder>(*field, *button);
+  }
+  column->addLayout(buttons);
+}
+
+void SettingsView::Add_Saving_Row(QGridLayout& grid, int row, CaptionField& heading,
+                                  TextField& field, Stepper& stepper) {
+  auto* label = new QLabel;
+  grid.addWidget(label, row, 0);
+  Bind<CaptionBinder>(heading, *label);
+  auto* edit = new NumberEdit;
+  grid.addWidget(edit, row, 1);
+  Bind<TextBinder>(field, *edit, &stepper);
+  auto* arrows = new SpinArrows;
+  grid.addWidget(arrows, row, 2);
+  Bind<SpinBinder>(stepper, *arrows);
+}
+
+void SettingsView::Arrange() {
+  const auto name = [this](const Field& field, const std::string& caption) {
+    Widget_Of(field)->setAccessibleName(desktop().Text(caption));
+  };
+  name(settings_.Text2(0), settings_.Label6(0).Caption());
+  name(settings_.Text2(1), settings_.Label6(1).Caption());
+  name(settings_.Text1, settings_.SSTab1.TabCaption(Settings::kLambdaTab));
+  name(settings_.Text3, settings_.Label2.Caption());
+}
+
+void SettingsView::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      Play(UserAction::kClick, settings_.Command1);
+      return;
+    case Qt::Key_Escape:
+      Play(UserAction::kClick, settings_.Command2);
+      return;
+    default:
+      FormView::keyPressEvent(event);
+  }
+}
+
+}  // namespace norvane

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "catalogue/settings_form.h"
+#include "desktop/form_view.h"
+
+class QGridLayout;
+
+namespace norvane {
+
+/// The settings dialog. Enter is OK, Escape is Cancel.
+class SettingsView : public FormView {
+  Q_OBJECT
+
+ public:
+  SettingsView(Desktop& desktop, Settings& settings);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void Arrange() override;
+
+ private:
+  void Add_Saving_Row(QGridLayout& grid, int row, CaptionField& heading, TextField& field,
+                      Stepper& stepper);
+
+  Settings& settings_;
+};
+
+}  // namespace norvane

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QTimer>
+
+#include "desktop/form_view.h"
+#include "frame/about_form.h"
+
+namespace norvane {
+
+/// The splash screen.
+class SplashView : public FormView {
+  Q_OBJECT
+
+ public:
+  SplashView(Desktop& desktop, About& about);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QTimer timer_;
+};
+
+}  // namespace norvane

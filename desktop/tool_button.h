@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <functional>
+
+class QPainter;
+
+namespace norvane {
+
+/// What a button of the toolbar strip shows.
+enum class ToolSign {
+  kTotal,
+  kSteelPipe,
+  kCopperTube,
+  kMetricPipe,
+  kSheet,
+  kHeatLoss,
+  kCondensation,
+  kAlpha,
+  kNewLambda,
+  kLambda038,
+  kLambda040,
+  kSaving,
+};
+
+/// A picture button; the chosen one of a group stands out by its ground and frame.
+class ToolButton : public QAbstractButton {
+  Q_OBJECT
+
+ public:
+  explicit ToolButton(ToolSign sign, QWidget* parent = nullptr);
+
+  QSize sizeHint() const override;
+
+ signals:
+  /// The mouse or the keyboard has come to the button.
+  void Reached();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  /// The program alone decides which button is the chosen one.
+  void nextCheckState() override {}
+
+ private:
+  ToolSign sign_;
+};
+
+/// Draws a sign into a square of `size` by `size`; `ink` is the colour of lines and letters.
+void Draw_Sign(QPainter& painter, ToolSign sign, qreal size, const QColor& ink);
+
+}  // namespace norvane

@@ -1,0 +1,36 @@
+#include "desktop/total_view.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include "desktop/grid_binder.h"
+
+namespace norvane {
+
+TotalView::TotalView(Desktop& desktop, Total& total) : FormView(desktop, total) {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(8, 8, 8, 8);
+  auto* tools = new QHBoxLayout;
+  auto* to_excel = new QPushButton;
+  tools->addWidget(to_excel);
+  tools->addStretch();
+  column->addLayout(tools);
+  Bind<ButtonBinder>(total.Toolbar1, *to_excel);
+  auto* table = new QTableView;
+  column->addWidget(table, 1);
+  Bind<GridBinder>(total.grdResult, *table);
+  auto* strip = new QWidget;
+  auto* row = new QHBoxLayout(strip);
+  row->setContentsMargins(4, 4, 4, 4);
+  auto* sums = new QLabel;
+  sums->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  row->addWidget(sums);
+  column->addWidget(strip);
+  Bind<PictureBinder>(total.picTotal, *strip);
+  Bind<CaptionBinder>(total.Label1, *sums);
+}
+
+}  // namespace norvane

@@ -1,0 +1,138 @@
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTest>
+
+#include "window_test.h"
+
+namespace norvane {
+namespace {
+
+/// Runs the event loop as the program does, with a procedure inside; returns the exit status.
+int Status_Of(const std::function<void()>& inside) {
+  QTimer::singleShot(0, qApp, inside);
+  return QApplication::exec();
+}
+
+class Start : public DesktopTest {};
+
+TEST_F(Start, The_Splash_Screen_Hands_Over_At_The_Third_Tick_Of_Its_Timer) {
+  QElapsedTimer clock;
+  clock.start();
+  desktop.Start();
+  About& splash = *State().forms.about;
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&View(splash)));
+  EXPECT_EQ(Shown(splash.Label1), "Norvane 3.1");
+  EXPECT_FALSE(Main_View().isVisible());
+  const QImage painted = View(splash).grab().toImage();
+  EXPECT_NE(painted.pixelColor(painted.width() / 2, painted.height() - 4),
+            painted.pixelColor(painted.width() / 2, 4));
+  // A click does nothing, and closing isn't offered.
+  QTest::mouseClick(View(splash).windowHandle(), Qt::LeftButton);
+  View(splash).close();
+  EXPECT_TRUE(View(splash).isVisible());
+
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Main_View().isVisible(); }, 6000));
+  EXPECT_GE(clock.elapsed(), 2000);
+  EXPECT_LE(clock.elapsed(), 5000);
+  EXPECT_FALSE(View(splash).isVisible());
+  EXPECT_EQ(splash.Tick_Count, 3);
+  Wait_Until_Active(Screen());
+  EXPECT_EQ(Main_View().windowTitle(), "Norvane 3.1");
+  Expect_Same_As_Model(Main_View());
+  QTest::qWait(1200);
+  EXPECT_EQ(splash.Tick_Count, 3);
+}
+
+TEST_F(Start, Without_Any_Language_The_Program_Says_So_And_Ends) {
+  for (const std::string& name : folder.Names()) {
+    if (name.starts_with("language.")) std::filesystem::remove(folder / name);
+  }
+  watchdog.Expect_Message(QMessageBox::Ok);
+  desktop.Start();
+  EXPECT_TRUE(desktop.program().Ended());
+  EXPECT_FALSE(desktop.program().Failed());
+  ASSERT_EQ(watchdog.Messages().size(), 1U);
+  EXPECT_TRUE(watchdog.Messages()[0].text.contains("www.norvane.example"));
+}
+
+class End : public WindowTest {
+ protected:
+  void Expect_Nothing_Left() {
+    EXPECT_TRUE(desktop.program().Ended());
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+      EXPECT_FALSE(window->isVisible()) << qPrintable(window->windowTitle());
+    }
+  }
+};
+
+TEST_F(End, The_Close_Box_Ends_The_Program) {
+  EXPECT_EQ(Status_Of([this] { Main_View().close(); }), 0);
+  EXPECT_FALSE(desktop.program().Failed());
+  Expect_Nothing_Left();
+}
+
+TEST_F(End, The_Menu_Ends_The_Program) {
+  EXPECT_EQ(Status_Of([this] { Click(Screen().lblMenu(3)); }), 0);
+  EXPECT_FALSE(desktop.program().Failed());
+  Expect_Nothing_Left();
+}
+
+TEST_F(End, Lists_That_Are_Still_Open_Go_With_It) {
+  const int status = Status_Of([this] {
+    Click(Screen().cmdAdd);
+    Click(Screen().picTotal);
+    Wait_Until_Active(*State().forms.total);
+    Click(Screen().lblMenu(2));
+    Wait_Until_Active(*State().forms.address);
+    Click(Screen().lblMenu(1));
+    Wait_Until_Active(*State().forms.lang);
+    Click(Screen().lblMenu(3));
+  });
+  EXPECT_EQ(status, 0);
+  Expect_Nothing_Left();
+}
+
+TEST_F(End, A_Runtime_Error_Is_Told_And_Ends_The_Program_With_Status_3) {
+  watchdog.Expect_Message(QMessageBox::Ok);
+  EXPECT_EQ(Status_Of([this] { Paste(Screen().txtmtrs, "-40000"); }), 3);
+  ASSERT_EQ(watchdog.Messages().size(), 1U);
+  EXPECT_EQ(watchdog.Messages()[0],
+            (SeenMessage{"Norvane", "Run-time error '6':\n\nOverflow", QMessageBox::Critical}));
+  EXPECT_TRUE(desktop.program().Failed());
+  Expect_Nothing_Left();
+}
+
+TEST_F(End, A_Temperature_Beyond_16_Bits_Is_The_Same_Error) {
+  watchdog.Expect_Message(QMessageBox::Ok);
+  EXPECT_EQ(Status_Of([this] { Paste(Screen().txtT(1), "40000"); }), 3);
+  Expect_Nothing_Left();
+}
+
+TEST_F(End, A_Runtime_Error_In_A_Dialog_Ends_The_Program_Too) {
+  watchdog.Expect([this](QWidget&) {
+    watchdog.Expect_Message(QMessageBox::Ok);
+    Mark(State().forms.settings->Text2(0));
+    Type("40000");
+    Press(Qt::Key_Return);
+  });
+  EXPECT_EQ(Status_Of([this] { Click(Screen().cmdToolBar5(0)); }), 3);
+  Expect_Nothing_Left();
+}
+
+TEST_F(End, The_Language_Is_Kept_For_The_Next_Start) {
+  Click(Screen().lblMenu(1));
+  Wait_Until_Active(*State().forms.lang);
+  int slot = 0;
+  while (State().languages.Lang_Code.at(static_cast<std::size_t>(slot)) != "ru") ++slot;
+  Click(State().forms.lang->Label2(slot));
+  EXPECT_EQ(Status_Of([this] { Main_View().close(); }), 0);
+
+  Desktop next(folder.Path());
+  next.Start();
+  Warmt& screen = *next.program().State().forms.warmt;
+  const auto& language = dynamic_cast<QLabel&>(*next.View_Of(screen)->Widget_Of(screen.Label10));
+  EXPECT_EQ(language.text(), "Русский 3.1");
+}
+
+}  // namespace
+}  // namespace norvane

@@ -1,0 +1,62 @@
+#include "window_test.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCursor>
+#include <QScreen>
+#include <stdexcept>
+
+namespace norvane {
+
+DesktopTest::DesktopTest() {
+  // Where no window comes to lie under the real pointer.
+  QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
+}
+
+DesktopTest::~DesktopTest() = default;
+
+FormView& DesktopTest::View(const Form& form) {
+  FormView* view = desktop.View_Of(form);
+  if (view == nullptr) throw std::runtime_error("no window for " + form.Name());
+  return *view;
+}
+
+QWidget& DesktopTest::Widget(const Field& field) {
+  QWidget* widget = View(field.form()).Widget_Of(field);
+  if (widget == nullptr) throw std::runtime_error("no widget for " + field.Name());
+  return *widget;
+}
+
+QWidget& DesktopTest::Arrow(const Field& spin, const QString& half) {
+  auto* arrow = Widget(spin).findChild<QWidget*>(half);
+  if (arrow == nullptr) throw std::runtime_error("no arrow " + half.toStdString());
+  return *arrow;
+}
+
+void DesktopTest::Mark(const TextField& field) {
+  Click(field);
+  Press(Qt::Key_A, Qt::ControlModifier);
+}
+
+void DesktopTest::Paste(const TextField& field, const QString& text) {
+  Mark(field);
+  QGuiApplication::clipboard()->setText(text);
+  Press(Qt::Key_V, Qt::ControlModifier);
+}
+
+void DesktopTest::Wait_Until_Active(const Form& form) {
+  ASSERT_TRUE(form.Shown()) << form.Name() << " isn't shown";
+  ASSERT_TRUE(Comes_To_Front(View(form))) << form.Name() << " isn't in front";
+}
+
+void WindowTest::SetUp() {
+  desktop.Start();
+  for (int i = 0; i < 3; ++i) desktop.Tick(State().forms.about->Timer1);
+  Wait_Until_Active(Screen());
+}
+
+void WindowTest::TearDown() {
+  if (!desktop.program().Ended()) Expect_Same_As_Model(Main_View());
+}
+
+}  // namespace norvane

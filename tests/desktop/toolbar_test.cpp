@@ -1,0 +1,172 @@
+#include <QAbstractButton>
+#include <QApplication>
+
+#include "window_test.h"
+
+namespace norvane {
+namespace {
+
+/// The strip of tool buttons and its tooltip box.
+class Toolbar : public WindowTest {
+ protected:
+  struct Tool {
+    const Button& field;
+    const char* tooltip;
+  };
+  /// The buttons that an English screen shows while no line is saved.
+  std::vector<Tool> Tools() {
+    return {{Screen().cmdToolBar1(0), "Steel pipe"},
+            {Screen().cmdToolBar1(1), "Copper tube"},
+            {Screen().cmdToolBar1(2), "Plastic pipe"},
+            {Screen().cmdToolBar1(3), "Flat surface"},
+            {Screen().cmdToolBarT, "Heat loss"},
+            {Screen().cmdToolBarC, "Condensation control"},
+            {Screen().cmdToolBar3(0), "New alpha"},
+            {Screen().cmdToolBar4(0), "New lambda"},
+            {Screen().cmdToolBar4(1), "Lambda 0.038 at 40 \u00B0C"},
+            {Screen().cmdToolBar5(0), "Savings settings"}};
+  }
+
+  QWidget& Box() { return Widget(Screen().picToolTip); }
+  std::string Tooltip_Text() {
+    return dynamic_cast<QAbstractButton&>(Widget(Screen().LblTooltip)).text().toStdString();
+  }
+  QRect Place(const Field& field) {
+    QWidget& widget = Widget(field);
+    return {widget.mapTo(&Main_View(), QPoint(0, 0)), widget.size()};
+  }
+  /// The box stands under its button, a little to the right of the button's left edge, and the
+  /// mouse reaches it there.
+  void Expect_Box_Under(const Button& field) {
+    ASSERT_TRUE(Box().isVisible());
+    const QRect button = Place(field);
+    const QRect box = Place(Screen().picToolTip);
+    EXPECT_GT(box.bottom(), button.bottom());
+    EXPECT_LE(box.top(), button.bottom() + 1);
+    EXPECT_GT(box.top(), button.center().y());
+    EXPECT_GT(box.left(), button.left());
+    EXPECT_LT(box.left(), button.right());
+    EXPECT_TRUE(Main_View().rect().contains(box));
+    EXPECT_EQ(Main_View().childAt(box.center()), &Widget(Screen().LblTooltip));
+    EXPECT_GE(Widget(Screen().LblTooltip).width(),
+              Widget(Screen().LblTooltip).minimumSizeHint().width());
+  }
+  /// The free ground at the window's left edge.
+  QPoint Bare_Place() { return {3, Main_View().height() / 2}; }
+};
+
+TEST_F(Toolbar, The_Mouse_Over_A_Button_Shows_Its_Tooltip_Under_It) {
+  EXPECT_FALSE(Box().isVisible());
+  for (const Tool& tool : Tools()) {
+    SCOPED_TRACE(tool.tooltip);
+    Hover(tool.field);
+    Settle();
+    EXPECT_EQ(Tooltip_Text(), tool.tooltip);
+    Expect_Box_Under(tool.field);
+    Expect_Same_As_Model(Main_View());
+    Hover(Main_View(), Bare_Place());
+  }
+}
+
+TEST_F(Toolbar, The_Tooltip_Goes_From_Button_To_Button) {
+  Hover(Screen().cmdToolBar1(0));
+  Settle();
+  Hover(Screen().cmdToolBar1(3));
+  Settle();
+  EXPECT_EQ(Tooltip_Text(), "Flat surface");
+  Expect_Box_Under(Screen().cmdToolBar1(3));
+}
+
+TEST_F(Toolbar, The_Mouse_Over_The_Bare_Form_Hides_The_Tooltip) {
+  Hover(Screen().cmdToolBar1(1));
+  ASSERT_TRUE(Box().isVisible());
+  Hover(Main_View(), Bare_Place());
+  EXPECT_FALSE(Box().isVisible());
+
+  Hover(Screen().cmdToolBar1(1));
+  ASSERT_TRUE(Box().isVisible());
+  // The ground between the rows is the form, too.
+  QWidget& card = *Widget(Screen().Label1(0)).parentWidget();
+  Hover(Main_View(), card.mapTo(&Main_View(), card.rect().bottomLeft() + QPoint(6, -6)));
+  EXPECT_FALSE(Box().isVisible());
+}
+
+TEST_F(Toolbar, The_Mouse_Over_Another_Control_Leaves_The_Tooltip) {
+  Hover(Screen().cmdToolBar5(0));
+  ASSERT_TRUE(Box().isVisible());
+  Hover(Screen().txtT(0));
+  EXPECT_TRUE(Box().isVisible());
+  Hover(Screen().Label3(2));
+  EXPECT_TRUE(Box().isVisible());
+  Hover(Screen().Combo1);
+  EXPECT_TRUE(Box().isVisible());
+  EXPECT_EQ(Tooltip_Text(), "Savings settings");
+}
+
+TEST_F(Toolbar, A_Click_On_The_Tooltip_Is_A_Click_On_Its_Button) {
+  Hover(Screen().cmdToolBarC);
+  Settle();
+  Hover(Screen().LblTooltip);
+  ASSERT_TRUE(Box().isVisible());
+  Click(Screen().LblTooltip);
+  EXPECT_EQ(Screen().Calc_Mode, "C");
+  EXPECT_TRUE(Widget(Screen().txtC(0)).isVisible());
+  EXPECT_FALSE(Box().isVisible());
+  EXPECT_TRUE(Widget(Screen().cmdToolBarC).hasFocus());
+
+  Hover(Screen().cmdToolBar1(2));
+  Settle();
+  Hover(Screen().LblTooltip);
+  Click(Screen().LblTooltip);
+  EXPECT_EQ(State().Sel_Size, 2);
+  EXPECT_FALSE(Box().isVisible());
+}
+
+TEST_F(Toolbar, A_Click_On_A_Button_Hides_The_Tooltip) {
+  Hover(Screen().cmdToolBar1(3));
+  ASSERT_TRUE(Box().isVisible());
+  Click(Screen().cmdToolBar1(3));
+  EXPECT_FALSE(Box().isVisible());
+  EXPECT_EQ(State().Sel_Size, 3);
+}
+
+TEST_F(Toolbar, Tab_Shows_The_Tooltip_And_Space_Presses_The_Button) {
+  Click(Screen().cmdToolBar1(0));
+  Hover(Main_View(), Bare_Place());
+  ASSERT_FALSE(Box().isVisible());
+  Press(Qt::Key_Tab);
+  Settle();
+  EXPECT_TRUE(Widget(Screen().cmdToolBar1(1)).hasFocus());
+  EXPECT_EQ(Tooltip_Text(), "Copper tube");
+  Expect_Box_Under(Screen().cmdToolBar1(1));
+  Press(Qt::Key_Space);
+  EXPECT_EQ(State().Sel_Size, 1);
+  EXPECT_FALSE(Box().isVisible());
+  Press(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_TRUE(Widget(Screen().cmdToolBar1(0)).hasFocus());
+  EXPECT_EQ(Tooltip_Text(), "Steel pipe");
+}
+
+TEST_F(Toolbar, Buttons_Are_Read_Aloud_By_Their_Tooltips) {
+  for (const Tool& tool : Tools()) {
+    EXPECT_EQ(Widget(tool.field).accessibleName().toStdString(), tool.tooltip);
+  }
+}
+
+TEST_F(Toolbar, Buttons_Of_Other_Times_Are_Hidden) {
+  EXPECT_FALSE(Widget(Screen().cmdToolBar0(0)).isVisible());  // no line is saved
+  EXPECT_FALSE(Widget(Screen().cmdToolBar4(2)).isVisible());  // German alone has it
+}
+
+TEST_F(Toolbar, Buttons_Stand_In_Their_Order) {
+  int right = -1;
+  for (const Tool& tool : Tools()) {
+    SCOPED_TRACE(tool.tooltip);
+    EXPECT_GT(Place(tool.field).left(), right);
+    right = Place(tool.field).right();
+    EXPECT_EQ(Place(tool.field).top(), Place(Screen().cmdToolBar1(0)).top());
+  }
+}
+
+}  // namespace
+}  // namespace norvane

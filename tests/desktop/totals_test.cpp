@@ -1,0 +1,222 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QTableView>
+#include <QTest>
+#include <QWindow>
+
+#include "window_test.h"
+
+namespace norvane {
+namespace {
+
+/// The screen of the saved lines.
+class Totals : public WindowTest {
+ protected:
+  Total& List() { return *State().forms.total; }
+  QTableView& Table() { return dynamic_cast<QTableView&>(Widget(List().grdResult)); }
+
+  /// Saves a line for each thickness.
+  void Add_Lines(const QStringList& thicknesses) {
+    for (const QString& thickness : thicknesses) {
+      Mark(Screen().txtT(2));
+      Type(thickness);
+      Click(Screen().cmdAdd);
+    }
+  }
+  void Open() {
+    Click(Screen().picTotal);
+    Wait_Until_Active(List());
+    Settle();
+  }
+  /// Rows are counted from 0, as the table does.
+  QPoint Place_Of(int row) {
+    const QRect cell = Table().visualRect(Table().model()->index(row, 1));
+    return Table().viewport()->mapTo(&View(List()), cell.center());
+  }
+  void Drag(int from, int to) {
+    QWindow* window = View(List()).windowHandle();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, Place_Of(from));
+    QTest::mouseMove(window, Place_Of(to));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, Place_Of(to));
+  }
+  void Wait_For_Message(std::size_t number) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return watchdog.Messages().size() >= number; }, 2000));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return QApplication::activeModalWidget() == nullptr; }, 2000));
+    Settle();
+  }
+  /// The thicknesses of the lines that the table shows.
+  QStringList Shown_Thicknesses() {
+    constexpr int kThickness = 7;  // column
+    QStringList shown;
+    for (int row = 0; row < Table().model()->rowCount(); ++row) {
+      shown << Table().model()->index(row, kThickness).data().toString();
+    }
+    return shown;
+  }
+};
+
+TEST_F(Totals, The_Ways_To_It_Show_With_The_First_Line) {
+  EXPECT_FALSE(Widget(Screen().picTotal).isVisible());
+  EXPECT_FALSE(Widget(Screen().cmdToolBar0(0)).isVisible());
+  Click(Screen().cmdAdd);
+  EXPECT_TRUE(Widget(Screen().picTotal).isVisible());
+  EXPECT_TRUE(Widget(Screen().cmdToolBar0(0)).isVisible());
+  Click(Screen().cmdToolBar0(0));
+  Wait_Until_Active(List());
+  EXPECT_EQ(Shown_Thicknesses(), QStringList{"0"});
+}
+
+TEST_F(Totals, Lines_And_Sums_Are_Shown) {
+  // Per metre 0 mm saves nothing at all.
+  Add_Lines({"0", "13", "20"});
+  Open();
+  Expect_Same_As_Model(View(List()));
+  EXPECT_EQ(Shown_Thicknesses(), (QStringList{"0", "13", "20"}));
+  EXPECT_EQ(View(List()).windowTitle(), "Total Calculation");
+  double sums[3] = {};
+  for (int row = 0; row < 3; ++row) {
+    for (int i = 0; i < 3; ++i) {
+      sums[i] += Table().model()->index(row, 17 + i).data().toDouble();
+    }
+  }
+  EXPECT_EQ(Label(List().Label1).text(),
+            QString("Total   Natural gas (m\u00B3) = %1   Heating oil (litres) = %2   "
+                    "Electricity (kWh) = %3")
+                .arg(sums[0], 0, 'g', 15)
+                .arg(sums[1], 0, 'g', 15)
+                .arg(sums[2], 0, 'g', 15));
+  EXPECT_TRUE(Label(List().Label1).font().bold());
+  EXPECT_GT(sums[2], 0);
+}
+
+TEST_F(Totals, A_Drag_Over_Rows_Asks_And_Yes_Deletes_Them) {
+  Add_Lines({"6", "9", "13", "15", "20"});
+  Open();
+  watchdog.Expect_Message(QMessageBox::Yes);
+  Drag(1, 3);
+  Wait_For_Message(1);
+  ASSERT_EQ(watchdog.Messages().size(), 1U);
+  EXPECT_EQ(watchdog.Messages()[0],
+            (SeenMessage{"Norvane", "Delete 3 Records", QMessageBox::Question}));
+  EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "20"}));
+  Expect_Same_As_Model(View(List()));
+}
+
+TEST_F(Totals, A_Drag_Upwards_Takes_The_Same_Rows) {
+  Add_Lines({"6", "9", "13", "15"});
+  Open();
+  watchdog.Expect_Message(QMessageBox::Yes);
+  Drag(2, 1);
+  Wait_For_Message(1);
+  EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "15"}));
+}
+
+TEST_F(Totals, No_Keeps_The_Lines) {
+  Add_Lines({"6", "9"});
+  Open();
+  watchdog.Expect_Message(QMessageBox::No);
+  norvane::Click(View(List()), Place_Of(0));
+  Wait_For_Message(1);
+  EXPECT_EQ(watchdog.Messages()[0].text, "Delete 1 Records");
+  EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "9"}));
+  EXPECT_TRUE(View(List()).isVisible());
+}
+
+TEST_F(Totals, Escape_Is_No) {
+  Add_Lines({"6", "9"});
+  Open();
+  watchdog.Expect([](QWidget& box) {
+    Press(Qt::Key_Escape);
+    // The button goes down for a moment first.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }, 1000));
+  });
+  norvane::Click(View(List()), Place_Of(0));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return watchdog.Content(); }, 2000));
+  EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "9"}));
+}
+
+TEST_F(Totals, No_With_One_Line_Closes_The_Screen_And_Keeps_The_Line) {
+  Add_Lines({"6"});
+  Open();
+  watchdog.Expect_Message(QMessageBox::No);
+  norvane::Click(View(List()), Place_Of(0));
+  Wait_For_Message(1);
+  EXPECT_FALSE(State().forms.total.Loaded());
+  Wait_Until_Active(Screen());
+  EXPECT_TRUE(Widget(Screen().picTotal).isVisible());
+}
+
+TEST_F(Totals, The_Last_Line_Deleted_Closes_The_Screen_And_Hides_The_Ways_To_It) {
+  Add_Lines({"6"});
+  Open();
+  watchdog.Expect_Message(QMessageBox::Yes);
+  norvane::Click(View(List()), Place_Of(0));
+  Wait_For_Message(1);
+  EXPECT_FALSE(State().forms.total.Loaded());
+  Wait_Until_Active(Screen());
+  EXPECT_FALSE(Widget(Screen().picTotal).isVisible());
+  EXPECT_FALSE(Widget(Screen().cmdToolBar0(0)).isVisible());
+}
+
+TEST_F(Totals, The_Delete_Key_Asks_For_The_Marked_Rows) {
+  Add_Lines({"6", "9", "13"});
+  Open();
+  Table().setFocus();
+  Press(Qt::Key_Home, Qt::ControlModifier);
+  Press(Qt::Key_Down);
+  Press(Qt::Key_Down, Qt::ShiftModifier);
+  watchdog.Expect_Message(QMessageBox::Yes);
+  Press(Qt::Key_Delete);
+  Wait_For_Message(1);
+  EXPECT_EQ(watchdog.Messages()[0].text, "Delete 2 Records");
+  EXPECT_EQ(Shown_Thicknesses(), QStringList{"6"});
+}
+
+TEST_F(Totals, Copy_Takes_The_Marked_Rows_Tab_Separated) {
+  Add_Lines({"6", "9", "13"});
+  Open();
+  Table().setFocus();
+  Press(Qt::Key_Home, Qt::ControlModifier);
+  Press(Qt::Key_Down, Qt::ShiftModifier);
+  Press(Qt::Key_C, Qt::ControlModifier);
+  // Each saved line begins with a tab, for the narrow first column.
+  const auto line = [this](std::size_t i) {
+    return QString::fromStdString(State().Calc_List[i].substr(1)) + "\n";
+  };
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), line(1) + line(2));
+}
+
+TEST_F(Totals, Lines_That_Were_Added_Meanwhile_Are_There_On_Coming_Back) {
+  Add_Lines({"6"});
+  Open();
+  Add_Lines({"9"});
+  EXPECT_TRUE(View(List()).isVisible());
+  norvane::Click(Widget(List().picTotal));
+  Settle();
+  EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "9"}));
+  Expect_Same_As_Model(View(List()));
+}
+
+TEST_F(Totals, The_Close_Box_Closes_It) {
+  Add_Lines({"6"});
+  Open();
+  View(List()).close();
+  EXPECT_FALSE(State().forms.total.Loaded());
+  Wait_Until_Active(Screen());
+}
+
+TEST_F(Totals, The_Grid_Follows_The_Size_Of_The_Window) {
+  Add_Lines({"6"});
+  Open();
+  const QSize before = Table().size();
+  View(List()).resize(View(List()).size() + QSize(100, 60));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Table().width() == before.width() + 100; }, 2000));
+  EXPECT_EQ(Table().height(), before.height() + 60);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return List().Place().width == View(List()).width() * 15; }));
+  EXPECT_TRUE(Widget(List().Label1).isVisible());
+}
+
+}  // namespace
+}  // namespace norvane
