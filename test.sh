@@ -1,0 +1,34 @@
+#!/bin/sh
+# Builds and runs the tests; the last lines are those of ctest.
+#   ./test.sh        everything: g++ and clang++, sanitizers, the real window, checks of the sources
+#   ./test.sh quick  unit tests and scripts alone
+set -eu
+cd "$(dirname "$0")"
+
+. packaging/install_packages.sh
+install_packages "to build and test Norvane" \
+  g++ cmake ninja-build qt6-base-dev libqt6svg6 libgtest-dev fonts-liberation
+
+if [ "${1:-}" = quick ]; then
+  cmake --preset release -DNORVANE_WERROR=ON >/dev/null
+  cmake --build --preset release
+  exec ctest --test-dir build/release --output-on-failure -L quick -j 2
+fi
+
+install_packages "to run all tests of Norvane" \
+  clang clang-tidy clang-format ccache xvfb openbox xauth \
+  libreoffice-calc libreoffice-dev libxlsxwriter-dev python3-uno xdotool
+
+for preset in release clang; do
+  echo "== $preset"
+  cmake --preset "$preset" -DNORVANE_WERROR=ON >/dev/null
+  cmake --build --preset "$preset"
+done
+echo "== sanitize"
+cmake --preset sanitize -DNORVANE_WERROR=ON -DNORVANE_DESKTOP=OFF >/dev/null
+cmake --build --preset sanitize
+
+tests/check_sources build/clang
+ctest --test-dir build/clang --output-on-failure -L quick -j 2
+ctest --test-dir build/sanitize --output-on-failure -L quick -j 2
+ctest --test-dir build/release --output-on-failure -j 2
