@@ -9,7 +9,7 @@ cd "$(dirname "$0")"
 office=
 command -v soffice >/dev/null && office=libreoffice-dev
 install_packages "to build and run Norvane" \
-  g++ cmake ninja-build qt6-base-dev libqt6svg6 libxlsxwriter-dev fonts-liberation $office
+  g++ cmake ninja-build qt6-base-dev libqt6svg6 libxlsxwriter-dev libminizip-dev fonts-liberation $office
 
 cmake -S . -B build/run -G Ninja -DCMAKE_BUILD_TYPE=Release -DNORVANE_TESTS=OFF \
   -DNORVANE_FOLDER="$PWD/build/norvane" >build-configure.log 2>&1 ||

@@ -17,7 +17,8 @@ fi
 
 install_packages "to run all tests of Norvane" \
   clang clang-tidy clang-format ccache xvfb openbox xauth \
-  libreoffice-calc libreoffice-dev libxlsxwriter-dev python3-uno xdotool
+  libreoffice-calc libreoffice-dev libxlsxwriter-dev libminizip-dev python3-uno xdotool \
+  at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
 
 for preset in release clang; do
   echo "== $preset"

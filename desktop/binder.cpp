@@ -10,15 +10,13 @@
 
 #include "desktop/desktop.h"
 #include "desktop/form_view.h"
+#include "desktop/letters.h"
 #include "desktop/number_edit.h"
 #include "desktop/spin_arrows.h"
 #include "host/code_page.h"
 
 namespace norvane {
 namespace {
-
-/// Qt takes a single "&" for the mark of a mnemonic.
-QString Without_Mnemonics(QString text) { return text.replace('&', "&&"); }
 
 /// The ground of a field, or that of the desktop's theme when it has none of its own.
 void Show_Ground(QWidget& widget, QPalette::ColorRole ground, QPalette::ColorRole text,
@@ -27,7 +25,7 @@ void Show_Ground(QWidget& widget, QPalette::ColorRole ground, QPalette::ColorRol
   if (opaque && !color.system) {
     const QColor shown(color.red, color.green, color.blue);
     palette.setColor(ground, shown);
-    palette.setColor(text, shown == QColor(255, 0, 0) ? Qt::white : Qt::black);
+    palette.setColor(text, Qt::black);
   }
   if (widget.palette() != palette) widget.setPalette(palette);
 }
@@ -109,7 +107,9 @@ void CaptionBinder::Show_Field() {
     return;
   }
   Show_Font();
-  label_.setText(Shown(field_.Caption()));
+  // Only the heading of another widget can have a letter; elsewhere "&" is an ordinary sign.
+  const bool heading = label_.buddy() != nullptr;
+  label_.setText(heading ? With_Letter(Caption(), view().Letter_Of(field_)) : Caption());
 }
 
 bool CaptionBinder::Has_Content() const {
@@ -125,19 +125,27 @@ CaptionButtonBinder::CaptionButtonBinder(FormView& view, CaptionField& field,
 
 void CaptionButtonBinder::Show_Field() {
   Show_Font();
-  button_.setText(Without_Mnemonics(Shown(field_.Caption())));
+  button_.setText(With_Letter(Caption(), view().Letter_Of(field_)));
 }
 
 ButtonBinder::ButtonBinder(FormView& view, Button& field, QAbstractButton& button)
     : Binder(view, field, button), field_(field), button_(button) {
   QObject::connect(&button, &QAbstractButton::clicked, &button,
                    [this] { Play(UserAction::kClick); });
+  // A screen reader toggles a button that can be checked, and means a click.
+  QObject::connect(&button, &QAbstractButton::toggled, &button, [this](bool checked) {
+    if (checked == Is_Chosen()) return;
+    Binder::view().Field_Changed(field_, Attribute::kPicture);
+    Play(UserAction::kClick);
+  });
 }
+
+bool ButtonBinder::Is_Chosen() const { return field_.Picture() == ButtonPicture::kChosen; }
 
 void ButtonBinder::Show_Field() {
   Show_Font();
-  button_.setText(Without_Mnemonics(Shown(field_.Caption())));
-  if (button_.isCheckable()) button_.setChecked(field_.Picture() == ButtonPicture::kChosen);
+  button_.setText(With_Letter(Caption(), view().Letter_Of(field_)));
+  if (button_.isCheckable()) button_.setChecked(Is_Chosen());
 }
 
 PictureBinder::PictureBinder(FormView& view, PictureField& field, QWidget& widget,
@@ -202,7 +210,7 @@ void TabsBinder::Show_Field() {
   Show_Font();
   while (bar_.count() < field_.Count()) bar_.addTab(QString());
   for (int tab = 0; tab < field_.Count(); ++tab) {
-    bar_.setTabText(tab, Without_Mnemonics(Shown(field_.TabCaption(tab))));
+    bar_.setTabText(tab, With_Letter(Shown(field_.TabCaption(tab)), {}));
   }
   bar_.setCurrentIndex(field_.Tab());
 }

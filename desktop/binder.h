@@ -37,6 +37,8 @@ class Binder {
   bool Mark_Changed();
   /// Shows the field as it is now.
   void Update();
+  /// The caption of a field that has one, as the user reads it.
+  virtual QString Caption() const { return {}; }
 
  protected:
   virtual void Show_Field() = 0;
@@ -74,6 +76,8 @@ class CaptionBinder : public Binder {
  public:
   CaptionBinder(FormView& view, CaptionField& field, QLabel& label);
 
+  QString Caption() const override { return Shown(field_.Caption()); }
+
  protected:
   void Show_Field() override;
   bool Has_Content() const override;
@@ -88,6 +92,8 @@ class CaptionButtonBinder : public Binder {
  public:
   CaptionButtonBinder(FormView& view, CaptionField& field, QAbstractButton& button);
 
+  QString Caption() const override { return Shown(field_.Caption()); }
+
  protected:
   void Show_Field() override;
 
@@ -100,10 +106,14 @@ class ButtonBinder : public Binder {
  public:
   ButtonBinder(FormView& view, Button& field, QAbstractButton& button);
 
+  QString Caption() const override { return Shown(field_.Caption()); }
+
  protected:
   void Show_Field() override;
 
  private:
+  bool Is_Chosen() const;
+
   Button& field_;
   QAbstractButton& button_;
 };

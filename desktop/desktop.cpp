@@ -18,7 +18,6 @@
 #include "desktop/views.h"
 #include "frame/version.h"
 #include "host/code_page.h"
-#include "spreadsheet/make_spreadsheet.h"
 #include "totals/calculation_list.h"
 
 namespace norvane {
@@ -42,8 +41,8 @@ QMessageBox::Icon Icon_Of(MessageIcon icon) {
 
 }  // namespace
 
-Desktop::Desktop(const std::filesystem::path& folder)
-    : files_(folder), spreadsheet_(Make_Spreadsheet(folder, busy_)), program_(*this) {}
+Desktop::Desktop(const std::filesystem::path& folder, const SpreadsheetMaker& make_spreadsheet)
+    : files_(folder), spreadsheet_(make_spreadsheet(folder, busy_)), program_(*this) {}
 
 Desktop::~Desktop() {
   for (const auto& [form, view] : views_) {

@@ -3,6 +3,7 @@
 #include <QEventLoop>
 #include <QString>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -12,6 +13,7 @@
 #include "frame/program.h"
 #include "host/disk_files.h"
 #include "platform/platform.h"
+#include "spreadsheet/make_spreadsheet.h"
 
 namespace norvane {
 
@@ -22,7 +24,12 @@ class FormView;
 /// the user does; it decides nothing.
 class Desktop : public Platform, public Display {
  public:
-  explicit Desktop(const std::filesystem::path& folder);
+  using SpreadsheetMaker = std::function<std::unique_ptr<Spreadsheet>(
+      const std::filesystem::path& folder, SpreadsheetWaiting& waiting)>;
+
+  /// `folder` is the program's folder.
+  explicit Desktop(const std::filesystem::path& folder,
+                   const SpreadsheetMaker& make_spreadsheet = Make_Spreadsheet);
   ~Desktop() override;
 
   Display& display() override { return *this; }

@@ -3,9 +3,11 @@
 #include <QCloseEvent>
 #include <QMouseEvent>
 #include <QTimer>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/desktop.h"
+#include "desktop/letters.h"
 #include "desktop/twips.h"
 #include "host/code_page.h"
 
@@ -49,8 +51,36 @@ void FormView::Field_Changed(Field& field, Attribute attribute) {
     for (const auto& binder : binders_) Note_Change(*binder);
     return;
   }
+  if (attribute == Attribute::kCaption) {
+    letters_outdated_ =
+        letters_outdated_ || std::any_of(letters_.begin(), letters_.end(),
+                                         [&](const auto& entry) { return entry.first == &field; });
+  }
   const auto entry = binder_of_.find(&field);
   if (entry != binder_of_.end()) Note_Change(*entry->second);
+}
+
+void FormView::Give_Letters(const std::vector<const Field*>& fields) {
+  for (const Field* field : fields) letters_.emplace_back(field, QChar());
+  letters_outdated_ = true;
+}
+
+QChar FormView::Letter_Of(const Field& field) const {
+  for (const auto& [lettered, letter] : letters_) {
+    if (lettered == &field) return letter;
+  }
+  return {};
+}
+
+void FormView::Choose_Letters_Anew() {
+  letters_outdated_ = false;
+  QStringList captions;
+  for (const auto& entry : letters_) captions << binder_of_.at(entry.first)->Caption();
+  const std::vector<QChar> chosen = Choose_Letters(captions);
+  for (std::size_t i = 0; i < letters_.size(); ++i) {
+    letters_[i].second = chosen[i];
+    Note_Change(*binder_of_.at(letters_[i].first));
+  }
 }
 
 void FormView::Note_Change(Binder& binder) {
@@ -67,7 +97,8 @@ void FormView::Form_Changed(FormAttribute attribute) {
 }
 
 void FormView::Show_Changes() {
-  if (form_ == nullptr || (changed_.empty() && !form_changed_ && focused_ == nullptr)) return;
+  if (form_ == nullptr) return;
+  if (letters_outdated_) Choose_Letters_Anew();
   for (Binder* binder : std::exchange(changed_, {})) binder->Update();
   Arrange();
   if (std::exchange(form_changed_, false)) Show_Window();

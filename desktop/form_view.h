@@ -43,6 +43,9 @@ class FormView : public QWidget, public FormObserver {
   /// The widget of a field, or null when it has none here.
   QWidget* Widget_Of(const Field& field) const;
 
+  /// The letter by which Alt reaches a field, a null letter for one without.
+  QChar Letter_Of(const Field& field) const;
+
   /// Tells the program what the user does with a field, or with the form itself.
   void Play(UserAction action, Field& field, int first = 0, int last = 0);
   void Play_Text(Field& field, const QString& text);
@@ -57,14 +60,17 @@ class FormView : public QWidget, public FormObserver {
   void resizeEvent(QResizeEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
 
-  /// Called when all widgets are up to date, for what depends on several of them.
+  /// Called after each event when all widgets are up to date, for what depends on several of them.
   virtual void Arrange() {}
+  /// Gives fields with a caption a letter each; the first ones have the first choice.
+  void Give_Letters(const std::vector<const Field*>& fields);
   /// Puts the window to its place on the screen before it is shown.
   virtual void Place_Window();
 
  private:
   void Keep(std::unique_ptr<Binder> binder);
   void Note_Change(Binder& binder);
+  void Choose_Letters_Anew();
   void Show_Window();
 
   Desktop& desktop_;
@@ -72,6 +78,8 @@ class FormView : public QWidget, public FormObserver {
   std::vector<std::unique_ptr<Binder>> binders_;
   std::unordered_map<const Field*, Binder*> binder_of_;
   std::vector<Binder*> changed_;
+  std::vector<std::pair<const Field*, QChar>> letters_;
+  bool letters_outdated_ = false;
   Field* focused_ = nullptr;
   bool form_changed_ = true;
   bool brought_to_front_ = false;

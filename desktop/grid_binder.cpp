@@ -4,8 +4,10 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QStyle>
 #include <QTableView>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/form_view.h"
 #include "desktop/table_events.h"
@@ -16,6 +18,8 @@ namespace {
 
 // The columns that hold words; numbers stand in all others.
 constexpr int kLastWordColumn = 2;
+
+constexpr int kNarrowestColumn = 300;  // twips
 
 /// The rows of the selection, from the one where it began to the one where it ends.
 std::pair<int, int> Selected_Rows(const QTableView& table) {
@@ -54,7 +58,10 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || grid_.Rows() == 0 || section >= grid_.Cols()) return {};
-  if (role == Qt::TextAlignmentRole) return int(Qt::AlignLeft | Qt::AlignVCenter);
+  if (role == Qt::TextAlignmentRole) {
+    const Qt::Alignment side = section > kLastWordColumn ? Qt::AlignRight : Qt::AlignLeft;
+    return int(side | Qt::AlignVCenter) | int(Qt::TextWordWrap);
+  }
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   return shown_(grid_.Cell(0, section));
 }
@@ -74,6 +81,9 @@ GridBinder::GridBinder(FormView& view, Grid& field, QTableView& table)
   table.setSelectionMode(QAbstractItemView::ContiguousSelection);
   table.verticalHeader()->hide();
   table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  table.horizontalHeader()->setMinimumSectionSize(To_Pixels(kNarrowestColumn));
+  // All rows are picked whole; captions that turn bold for that would outgrow their columns.
+  table.horizontalHeader()->setHighlightSections(false);
   table.setWordWrap(false);
   auto* events = new TableEvents(table);
   QObject::connect(events, &TableEvents::Picked, &table, [this] { Pick(); });
@@ -82,15 +92,33 @@ GridBinder::GridBinder(FormView& view, Grid& field, QTableView& table)
 
 void GridBinder::Show_Field() {
   Show_Font();
-  const int columns = table_.horizontalHeader()->count();
   model_.Reset();
   // Widths that the user has dragged stay while the columns do.
-  if (columns != field_.Cols()) {
-    for (int i = 0; i < field_.Cols(); ++i) table_.setColumnWidth(i, To_Pixels(field_.ColWidth(i)));
-  }
+  if (std::exchange(columns_shown_, field_.Cols()) != field_.Cols()) Size_Columns();
   table_.verticalHeader()->setDefaultSectionSize(table_.fontMetrics().height() + 8);
   table_.clearSelection();
   if (field_.Row() > 0) table_.setCurrentIndex(model_.index(field_.Row() - 1, 0));
+}
+
+void GridBinder::Size_Columns() {
+  QHeaderView& header = *table_.horizontalHeader();
+  const int margin =
+      2 * (header.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header) + 1);
+  const QFontMetrics letters = header.fontMetrics();
+  int lines = 1;
+  for (int i = 0; i < field_.Cols(); ++i) {
+    const QString caption = model_.headerData(i, Qt::Horizontal, Qt::DisplayRole).toString();
+    // As wide as the grid says, but no word of the caption is cut.
+    int width = To_Pixels(field_.ColWidth(i));
+    for (const QString& word : caption.split(' ')) {
+      width = std::max(width, letters.horizontalAdvance(word) + margin);
+    }
+    table_.setColumnWidth(i, width);
+    const QRect wrapped =
+        letters.boundingRect(QRect(0, 0, width - margin, 1000), Qt::TextWordWrap, caption);
+    lines = std::max(lines, (wrapped.height() + letters.leading()) / letters.lineSpacing());
+  }
+  header.setFixedHeight(lines * letters.lineSpacing() + 2 * margin);
 }
 
 void GridBinder::Pick() {

@@ -38,12 +38,14 @@ class GridBinder : public Binder {
   void Show_Field() override;
 
  private:
+  void Size_Columns();
   void Pick();
   void Copy() const;
 
   Grid& field_;
   QTableView& table_;
   GridModel model_;
+  int columns_shown_ = 0;
 };
 
 }  // namespace norvane

@@ -58,6 +58,8 @@ QWidget* LanguageView::Make_Entry(Lang& lang, int index) {
   name->setFlat(true);
   name->setAutoDefault(true);
   name->setStyleSheet("text-align: left; padding: 2px 6px;");
+  // A button with a style sheet doesn't take its window's colours by itself.
+  name->setPalette(palette());
   name->setMinimumWidth(kNameWidth);
   row->addWidget(name);
   Bind<CaptionButtonBinder>(lang.Label2(index), *name);

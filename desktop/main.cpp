@@ -1,11 +1,17 @@
 #include <QApplication>
+#include <QFont>
 
+#include "desktop/app_icon.h"
 #include "desktop/desktop.h"
 #include "frame/version.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(norvane::kTitle);
+  QApplication::setDesktopFileName("norvane");
+  QApplication::setWindowIcon(norvane::App_Icon());
+  // Where the font of most languages is missing, one with the same widths stands for it.
+  QFont::insertSubstitutions("Arial", {"Liberation Sans", "Arimo", "Nimbus Sans", "Helvetica"});
   QApplication::setQuitOnLastWindowClosed(false);
   norvane::Desktop desktop(QCoreApplication::applicationDirPath().toStdString());
   desktop.Start();

@@ -7,6 +7,7 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include "desktop/accessible.h"
 #include "desktop/card.h"
 #include "desktop/desktop.h"
 #include "desktop/number_edit.h"
@@ -57,6 +58,7 @@ SettingsView::SettingsView(Desktop& desktop, Settings& settings)
     Bind<ButtonBinder>(*field, *button);
   }
   column->addLayout(buttons);
+  Give_Letters({&settings.Label6(0), &settings.Label6(1), &settings.Command1, &settings.Command2});
 }
 
 void SettingsView::Add_Saving_Row(QGridLayout& grid, int row, CaptionField& heading,
@@ -66,6 +68,7 @@ void SettingsView::Add_Saving_Row(QGridLayout& grid, int row, CaptionField& head
   Bind<CaptionBinder>(heading, *label);
   auto* edit = new NumberEdit;
   grid.addWidget(edit, row, 1);
+  label->setBuddy(edit);
   Bind<TextBinder>(field, *edit, &stepper);
   auto* arrows = new SpinArrows;
   grid.addWidget(arrows, row, 2);
@@ -74,10 +77,15 @@ void SettingsView::Add_Saving_Row(QGridLayout& grid, int row, CaptionField& head
 
 void SettingsView::Arrange() {
   const auto name = [this](const Field& field, const std::string& caption) {
-    Widget_Of(field)->setAccessibleName(desktop().Text(caption));
+    Tell(*Widget_Of(field), desktop().Text(caption));
   };
-  name(settings_.Text2(0), settings_.Label6(0).Caption());
-  name(settings_.Text2(1), settings_.Label6(1).Caption());
+  const auto name_stepped = [&](const TextField& field, const Stepper& stepper,
+                                const CaptionField& heading) {
+    name(field, heading.Caption());
+    dynamic_cast<SpinArrows*>(Widget_Of(stepper))->Name_After(desktop().Text(heading.Caption()));
+  };
+  name_stepped(settings_.Text2(0), settings_.UpDown1_0, settings_.Label6(0));
+  name_stepped(settings_.Text2(1), settings_.UpDown1_1, settings_.Label6(1));
   name(settings_.Text1, settings_.SSTab1.TabCaption(Settings::kLambdaTab));
   name(settings_.Text3, settings_.Label2.Caption());
 }

@@ -3,6 +3,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "desktop/accessible.h"
+
 namespace norvane {
 namespace {
 
@@ -28,6 +30,11 @@ SpinArrows::SpinArrows(QWidget* parent) : QWidget(parent) {
     column->addWidget(arrow);
   }
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void SpinArrows::Name_After(const QString& field) {
+  Tell(*findChild<QWidget*>("up"), field + " +");
+  Tell(*findChild<QWidget*>("down"), field + " \u2212");
 }
 
 }  // namespace norvane

@@ -12,6 +12,9 @@ class SpinArrows : public QWidget {
  public:
   explicit SpinArrows(QWidget* parent = nullptr);
 
+  /// What a screen reader tells of the arrows: the name of the field that they step.
+  void Name_After(const QString& field);
+
  signals:
   /// One step up (1) or down (-1).
   void Stepped(int direction);

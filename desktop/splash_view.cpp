@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/background.h"
+#include "desktop/colours.h"
 
 namespace norvane {
 
@@ -14,7 +15,7 @@ SplashView::SplashView(Desktop& desktop, About& about) : FormView(desktop, about
   column->setContentsMargins(28, 28, 28, 24);
   auto* title = new QLabel;
   // The ground is light under every theme of the desktop.
-  setPalette(QPalette(QColor(228, 238, 218)));
+  setPalette(QPalette(kGround));
   column->addStretch();
   column->addWidget(title);
   Bind<CaptionBinder>(about.Label1, *title);

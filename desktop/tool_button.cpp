@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "desktop/colours.h"
+#include "desktop/material.h"
 
 namespace norvane {
 namespace {
@@ -12,6 +13,8 @@ namespace {
 constexpr int kWidth = 44;
 constexpr int kHeight = 34;
 constexpr int kSignSize = 26;
+constexpr qreal kLine = 1.5;
+constexpr qreal kCorner = 5;
 
 }  // namespace
 
@@ -27,25 +30,27 @@ QSize ToolButton::sizeHint() const { return {kWidth, kHeight}; }
 void ToolButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QRectF frame = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
+  const QColor& ink = palette().color(QPalette::WindowText);
+  // A frame of whole pixels of the screen is a sharp one.
+  const qreal line = qRound(kLine * devicePixelRatioF()) / devicePixelRatioF();
+  const QRectF frame = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
   if (isChecked()) {
-    QColor ground = kAccent;
-    ground.setAlphaF(0.22F);
-    painter.setBrush(ground);
-    painter.setPen(QPen(kAccent, 1.5));
-    painter.drawRoundedRect(frame, 5, 5);
+    painter.setBrush(Veil(kAccent, 0.22));
+    painter.setPen(QPen(kAccent, line));
+    painter.drawRoundedRect(frame, kCorner, kCorner);
   } else if (underMouse() || isDown()) {
-    painter.setBrush(palette().color(QPalette::Midlight));
+    painter.setBrush(Veil(ink, isDown() ? 0.18 : 0.09));
     painter.setPen(Qt::NoPen);
-    painter.drawRoundedRect(frame, 5, 5);
+    painter.drawRoundedRect(frame, kCorner, kCorner);
   }
   if (hasFocus()) {
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(palette().color(QPalette::WindowText), 1, Qt::DotLine));
-    painter.drawRoundedRect(frame.adjusted(2, 2, -2, -2), 3, 3);
+    painter.setPen(QPen(Veil(ink, 0.65), line / 2));
+    const qreal gap = 1.5 * line;
+    painter.drawRoundedRect(frame.adjusted(gap, gap, -gap, -gap), kCorner - gap, kCorner - gap);
   }
   painter.translate((width() - kSignSize) / 2.0, (height() - kSignSize) / 2.0);
-  Draw_Sign(painter, sign_, kSignSize, palette().color(QPalette::WindowText));
+  Draw_Sign(painter, sign_, kSignSize, ink);
 }
 
 void ToolButton::enterEvent(QEnterEvent* event) {

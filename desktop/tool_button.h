@@ -7,7 +7,7 @@ class QPainter;
 
 namespace norvane {
 
-/// What a button of the toolbar strip shows.
+/// What a picture button shows.
 enum class ToolSign {
   kTotal,
   kSteelPipe,
@@ -21,6 +21,7 @@ enum class ToolSign {
   kLambda038,
   kLambda040,
   kSaving,
+  kSpreadsheet,
 };
 
 /// A picture button; the chosen one of a group stands out by its ground and frame.

@@ -7,135 +7,253 @@
 namespace norvane {
 namespace {
 
-void Draw_Section(QPainter& painter, qreal s, const QColor& wall) {
+// Signs are drawn on a grid of this many units.
+constexpr qreal kGrid = 26;
+constexpr QPointF kMiddle(kGrid / 2, kGrid / 2);
+
+/// The area with its edges on whole pixels of the screen.
+QRectF Sharp(const QPainter& painter, const QRectF& area) {
+  const QTransform& to_screen = painter.deviceTransform();
+  return to_screen.inverted().mapRect(QRectF(to_screen.mapRect(area).toAlignedRect()));
+}
+
+/// A colour for the ground that ink of this colour is written on.
+const QColor& Beside(const QColor& ink, const QColor& on_light, const QColor& on_dark) {
+  constexpr int kMiddling = 128;
+  return ink.lightness() > kMiddling ? on_dark : on_light;
+}
+
+void Fill_Disc(QPainter& painter, qreal radius, const QColor& top, const QColor& foot) {
+  QLinearGradient light(0, kMiddle.y() - radius, 0, kMiddle.y() + radius);
+  light.setColorAt(0, top);
+  light.setColorAt(1, foot);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(kFoam);
-  painter.drawEllipse(QPointF(s / 2, s / 2), s * 0.46, s * 0.46);
-  painter.setBrush(wall);
-  painter.drawEllipse(QPointF(s / 2, s / 2), s * 0.31, s * 0.31);
-  painter.setBrush(wall.darker(240));
-  painter.drawEllipse(QPointF(s / 2, s / 2), s * 0.21, s * 0.21);
+  painter.setBrush(light);
+  painter.drawEllipse(kMiddle, radius, radius);
 }
 
-void Draw_Slab(QPainter& painter, qreal s) {
-  const auto layer = [&](qreal top, qreal height, const QColor& color) {
-    QPainterPath face;
-    face.addRect(s * 0.04, s * top, s * 0.92, s * height);
-    painter.fillPath(face, color);
+/// A pipe in its insulation, in section.
+void Draw_Section(QPainter& painter, const QColor& ink, const QColor& lit, const QColor& wall,
+                  const QColor& shade, qreal bore) {
+  const QColor& rim = Beside(ink, kFoamRim, kFoamRimOnDark);
+  Fill_Disc(painter, 13, rim, rim);
+  Fill_Disc(painter, 12, kFoamCut, kFoam);
+  Fill_Disc(painter, 8.4, kFoamShade, kBore);
+  Fill_Disc(painter, 8, lit, wall);
+  Fill_Disc(painter, bore, kBore, shade);
+}
+
+void Draw_Slab(QPainter& painter, const QColor& ink) {
+  constexpr QPointF kDepth(6, -6);
+  const QRectF foam = Sharp(painter, {1, 10, 18, 8});
+  const QRectF plate = Sharp(painter, {foam.left(), foam.bottom(), foam.width(), 4});
+  const auto fill = [&painter](const QPolygonF& face, const QColor& colour) {
+    QPainterPath path;
+    path.addPolygon(face);
+    painter.fillPath(path, colour);
   };
-  layer(0.24, 0.34, kFoam);
-  layer(0.58, 0.18, kSteel);
+  const auto side = [&kDepth](const QRectF& front) {
+    return QPolygonF{front.topRight(), front.topRight() + kDepth, front.bottomRight() + kDepth,
+                     front.bottomRight()};
+  };
+  fill(side(foam), kFoam);
+  fill(side(plate), kSteel);
+  fill({foam.topLeft(), foam.topLeft() + kDepth, foam.topRight() + kDepth, foam.topRight()},
+       Beside(ink, kFoamRim, kFoamRimOnDark));
+  painter.fillRect(foam, kFoamCut);
+  painter.fillRect(plate, kSteelBright);
 }
 
-void Draw_Flame(QPainter& painter, qreal s) {
-  QPainterPath flame(QPointF(s * 0.52, s * 0.04));
-  flame.cubicTo(s * 0.58, s * 0.30, s * 0.86, s * 0.40, s * 0.82, s * 0.68);
-  flame.cubicTo(s * 0.80, s * 0.88, s * 0.64, s * 0.97, s * 0.50, s * 0.97);
-  flame.cubicTo(s * 0.32, s * 0.97, s * 0.18, s * 0.84, s * 0.18, s * 0.66);
-  flame.cubicTo(s * 0.18, s * 0.50, s * 0.30, s * 0.44, s * 0.34, s * 0.28);
-  flame.cubicTo(s * 0.42, s * 0.36, s * 0.44, s * 0.42, s * 0.44, s * 0.50);
-  flame.cubicTo(s * 0.54, s * 0.40, s * 0.56, s * 0.22, s * 0.52, s * 0.04);
-  painter.fillPath(flame, QColor(217, 83, 25));
-  QPainterPath core(QPointF(s * 0.52, s * 0.52));
-  core.cubicTo(s * 0.56, s * 0.64, s * 0.68, s * 0.68, s * 0.66, s * 0.80);
-  core.cubicTo(s * 0.64, s * 0.92, s * 0.40, s * 0.94, s * 0.36, s * 0.80);
-  core.cubicTo(s * 0.34, s * 0.68, s * 0.50, s * 0.66, s * 0.52, s * 0.52);
-  painter.fillPath(core, QColor(250, 190, 60));
+/// A pipe that lies across the sign.
+void Draw_Lying_Pipe(QPainter& painter, qreal top) {
+  const QRectF area = Sharp(painter, {0, top, kGrid, 6});
+  QLinearGradient light(area.topLeft(), area.bottomLeft());
+  light.setColorAt(0, kSteel);
+  light.setColorAt(0.3, kSteelLight);
+  light.setColorAt(1, kSteelShade);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(light);
+  painter.drawRoundedRect(area, 2, 2);
 }
 
-void Draw_Drop(QPainter& painter, qreal s) {
-  QPainterPath drop(QPointF(s * 0.5, s * 0.04));
-  drop.cubicTo(s * 0.60, s * 0.28, s * 0.82, s * 0.46, s * 0.82, s * 0.66);
-  drop.cubicTo(s * 0.82, s * 0.85, s * 0.68, s * 0.97, s * 0.5, s * 0.97);
-  drop.cubicTo(s * 0.32, s * 0.97, s * 0.18, s * 0.85, s * 0.18, s * 0.66);
-  drop.cubicTo(s * 0.18, s * 0.46, s * 0.40, s * 0.28, s * 0.5, s * 0.04);
-  painter.fillPath(drop, QColor(46, 122, 190));
-  painter.setPen(QPen(QColor(220, 238, 252), s * 0.07, Qt::SolidLine, Qt::RoundCap));
-  painter.drawArc(QRectF(s * 0.31, s * 0.48, s * 0.38, s * 0.38), 190 * 16, 60 * 16);
-}
-
-void Draw_Letter(QPainter& painter, qreal s, const QColor& ink, QChar letter,
-                 const QString& below = {}) {
-  QFont font("Liberation Serif");
-  font.setStyleHint(QFont::Serif);
-  font.setItalic(true);
-  font.setPixelSize(qRound(below.isEmpty() ? s * 0.95 : s * 0.70));
-  painter.setFont(font);
-  painter.setPen(ink);
-  const QRectF upper(-s * 0.3, below.isEmpty() ? 0 : -s * 0.12, s * 1.6,
-                     below.isEmpty() ? s * 0.92 : s * 0.72);
-  painter.drawText(upper, Qt::AlignCenter, letter);
-  if (below.isEmpty()) return;
-  QFont small("Arial");
-  small.setPixelSize(qRound(s * 0.42));
-  small.setBold(true);
-  painter.setFont(small);
-  painter.drawText(QRectF(-s * 0.3, s * 0.58, s * 1.6, s * 0.46), Qt::AlignCenter, below);
-}
-
-/// A star beside a letter: the value is a new one.
-void Draw_Star(QPainter& painter, qreal s) {
-  painter.setPen(QPen(kAccent.darker(125), s * 0.09, Qt::SolidLine, Qt::RoundCap));
-  const QPointF middle(s * 0.90, s * 0.18);
-  const qreal arm = s * 0.15;
-  painter.drawLine(middle - QPointF(arm, 0), middle + QPointF(arm, 0));
-  painter.drawLine(middle - QPointF(0, arm), middle + QPointF(0, arm));
-}
-
-/// A coin with an arrow that falls: cost that goes down.
-void Draw_Saving(QPainter& painter, qreal s, const QColor& ink) {
-  painter.setPen(QPen(QColor(150, 110, 10), s * 0.06));
-  painter.setBrush(QColor(240, 196, 60));
-  painter.drawEllipse(QPointF(s * 0.42, s * 0.48), s * 0.36, s * 0.36);
+/// Heat that rises from a pipe.
+void Draw_Heat(QPainter& painter, const QColor& ink) {
+  Draw_Lying_Pipe(painter, 20);
   painter.setBrush(Qt::NoBrush);
-  painter.drawEllipse(QPointF(s * 0.42, s * 0.48), s * 0.23, s * 0.23);
-  painter.setPen(QPen(ink, s * 0.08, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.drawLine(QPointF(s * 0.90, s * 0.22), QPointF(s * 0.90, s * 0.88));
-  painter.drawPolyline(QPolygonF{QPointF(s * 0.78, s * 0.74), QPointF(s * 0.90, s * 0.90),
-                                 QPointF(s * 1.02, s * 0.74)});
+  painter.setPen(QPen(Beside(ink, kHeat, kHeatOnDark), 2.6, Qt::SolidLine, Qt::RoundCap));
+  for (const qreal at : {5.0, 13.0, 21.0}) {
+    QPainterPath wave(QPointF(at, 17));
+    wave.cubicTo(at - 4.5, 12.5, at + 4.5, 7, at, 2);
+    painter.drawPath(wave);
+  }
 }
 
-void Draw_Sum(QPainter& painter, qreal s, const QColor& ink) {
-  painter.setPen(QPen(ink, s * 0.09, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin));
-  painter.drawPolyline(QPolygonF{QPointF(s * 0.80, s * 0.26), QPointF(s * 0.80, s * 0.12),
-                                 QPointF(s * 0.20, s * 0.12), QPointF(s * 0.54, s * 0.50),
-                                 QPointF(s * 0.20, s * 0.88), QPointF(s * 0.80, s * 0.88),
-                                 QPointF(s * 0.80, s * 0.74)});
+void Fill_Drop(QPainter& painter, const QColor& water, const QPointF& tip, qreal width,
+               qreal height) {
+  const qreal half = width / 2;
+  const qreal belly = height - half;
+  QPainterPath drop(tip);
+  drop.cubicTo(tip + QPointF(half * 0.3, height * 0.25), tip + QPointF(half, belly - half * 0.6),
+               tip + QPointF(half, belly));
+  drop.cubicTo(tip + QPointF(half, belly + half * 0.56), tip + QPointF(half * 0.56, height),
+               tip + QPointF(0, height));
+  drop.cubicTo(tip + QPointF(-half * 0.56, height), tip + QPointF(-half, belly + half * 0.56),
+               tip + QPointF(-half, belly));
+  drop.cubicTo(tip + QPointF(-half, belly - half * 0.6), tip + QPointF(-half * 0.3, height * 0.25),
+               tip);
+  painter.fillPath(drop, water);
+}
+
+/// Drops on the underside of a pipe.
+void Draw_Condensation(QPainter& painter, const QColor& ink) {
+  Draw_Lying_Pipe(painter, 0);
+  const QColor& water = Beside(ink, kWater, kWaterOnDark);
+  Fill_Drop(painter, water, {13, 8}, 12, 18);
+  Fill_Drop(painter, water, {3.6, 8}, 5, 8);
+  Fill_Drop(painter, water, {22.4, 8}, 5, 8);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(kWaterGlint, 1.6, Qt::SolidLine, Qt::RoundCap));
+  painter.drawArc(QRectF(9.6, 16.6, 6.8, 6.8), 190 * 16, 60 * 16);
+}
+
+void Draw_Stroke(QPainter& painter, const QPainterPath& path, const QColor& colour,
+                 qreal width = 2.4) {
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPath(path);
+}
+
+void Draw_Alpha(QPainter& painter, const QColor& ink) {
+  QPainterPath letter(QPointF(21, 6));
+  letter.cubicTo(18.5, 14, 15.5, 21, 10, 21);
+  letter.cubicTo(6.2, 21, 4, 18, 4, 13.8);
+  letter.cubicTo(4, 9.2, 6.6, 6, 10.4, 6);
+  letter.cubicTo(16.4, 6, 16, 21, 22, 21);
+  Draw_Stroke(painter, letter, ink);
+}
+
+/// The letter lambda, `height` high.
+void Draw_Lambda(QPainter& painter, const QPointF& top_left, qreal height, const QColor& ink) {
+  const auto at = [&](qreal x, qreal y) { return top_left + QPointF(x, y) * height; };
+  QPainterPath letter(at(0.08, 0.05));
+  letter.cubicTo(at(0.22, -0.04), at(0.32, 0.05), at(0.38, 0.24));
+  letter.lineTo(at(0.58, 0.82));
+  letter.cubicTo(at(0.64, 0.99), at(0.72, 1.02), at(0.82, 0.93));
+  letter.moveTo(at(0.44, 0.42));
+  letter.lineTo(at(0.08, 1));
+  Draw_Stroke(painter, letter, ink, 0.9 + 0.075 * height);
+}
+
+void Draw_New_Lambda(QPainter& painter, const QColor& ink) {
+  Draw_Lambda(painter, {2, 4}, 20, ink);
+  QPainterPath plus(QPointF(21, 2.5));
+  plus.lineTo(21, 10.5);
+  plus.moveTo(17, 6.5);
+  plus.lineTo(25, 6.5);
+  Draw_Stroke(painter, plus, Beside(ink, kAccentLine, kAccentLight));
+}
+
+void Draw_Fixed_Lambda(QPainter& painter, const QColor& ink, const QString& value) {
+  Draw_Lambda(painter, {7.5, 0.5}, 12.5, ink);
+  QFont digits("Arial");
+  digits.setStyleHint(QFont::SansSerif);
+  digits.setPixelSize(11);
+  digits.setBold(true);
+  painter.setFont(digits);
+  painter.setPen(ink);
+  painter.drawText(QRectF(-7, 14.5, kGrid + 14, 12), Qt::AlignCenter, value);
+}
+
+/// Coins, and an arrow that falls: cost that goes down.
+void Draw_Saving(QPainter& painter, const QColor& ink) {
+  painter.setPen(QPen(kCoinLine, 1.2));
+  for (const qreal top : {19.0, 14.5, 10.0}) {
+    QPainterPath coin(QPointF(1, top));
+    coin.lineTo(1, top + 3);
+    coin.arcTo(QRectF(1, top, 15, 6), 180, 180);
+    coin.lineTo(16, top);
+    painter.setBrush(kCoin.darker(115));
+    painter.drawPath(coin);
+    painter.setBrush(kCoin);
+    painter.drawEllipse(QRectF(1, top - 3, 15, 6));
+  }
+  QPainterPath arrow(QPointF(21, 3));
+  arrow.lineTo(21, 21);
+  arrow.moveTo(17, 17.4);
+  arrow.lineTo(21, 21.4);
+  arrow.lineTo(25, 17.4);
+  Draw_Stroke(painter, arrow, Beside(ink, kAccentLine, kAccentLight));
+}
+
+void Draw_Sum(QPainter& painter, const QColor& ink) {
+  QPainterPath sum(QPointF(20.5, 7));
+  sum.lineTo(20.5, 3);
+  sum.lineTo(5.5, 3);
+  sum.lineTo(13.5, 13);
+  sum.lineTo(5.5, 23);
+  sum.lineTo(20.5, 23);
+  sum.lineTo(20.5, 19);
+  Draw_Stroke(painter, sum, ink);
+}
+
+/// The sheet of a workbook, with its caption row.
+void Draw_Spreadsheet(QPainter& painter, const QColor& ink) {
+  const QRectF sheet = Sharp(painter, {2, 4, 22, 18});
+  const qreal row = sheet.height() / 4;
+  painter.fillRect(QRectF(sheet.topLeft(), QSizeF(sheet.width(), row)),
+                   Beside(ink, kAccentLine, kAccentLight));
+  painter.setPen(QPen(ink, 1.4));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(sheet);
+  for (int i = 1; i < 4; ++i) {
+    const qreal y = sheet.top() + i * row;
+    painter.drawLine(QPointF(sheet.left(), y), QPointF(sheet.right(), y));
+  }
+  for (const qreal part : {0.36, 0.68}) {
+    const qreal x = sheet.left() + part * sheet.width();
+    painter.drawLine(QPointF(x, sheet.top()), QPointF(x, sheet.bottom()));
+  }
+}
+
+void Draw_On_Grid(QPainter& painter, ToolSign sign, const QColor& ink) {
+  switch (sign) {
+    case ToolSign::kTotal:
+      return Draw_Sum(painter, ink);
+    case ToolSign::kSteelPipe:
+      return Draw_Section(painter, ink, kSteelBright, kSteel, kSteelShade, 4.4);
+    case ToolSign::kCopperTube:
+      return Draw_Section(painter, ink, kCopperLight, kCopper, kCopperShade, 6.2);
+    case ToolSign::kMetricPipe:
+      return Draw_Section(painter, ink, kPlasticLight, kPlastic, kPlasticShade, 5.6);
+    case ToolSign::kSheet:
+      return Draw_Slab(painter, ink);
+    case ToolSign::kHeatLoss:
+      return Draw_Heat(painter, ink);
+    case ToolSign::kCondensation:
+      return Draw_Condensation(painter, ink);
+    case ToolSign::kAlpha:
+      return Draw_Alpha(painter, ink);
+    case ToolSign::kNewLambda:
+      return Draw_New_Lambda(painter, ink);
+    case ToolSign::kLambda038:
+      return Draw_Fixed_Lambda(painter, ink, ".038");
+    case ToolSign::kLambda040:
+      return Draw_Fixed_Lambda(painter, ink, ".040");
+    case ToolSign::kSaving:
+      return Draw_Saving(painter, ink);
+    case ToolSign::kSpreadsheet:
+      return Draw_Spreadsheet(painter, ink);
+  }
 }
 
 }  // namespace
 
 void Draw_Sign(QPainter& painter, ToolSign sign, qreal size, const QColor& ink) {
-  constexpr char16_t kAlphaLetter = 0x3B1;
-  constexpr char16_t kLambdaLetter = 0x3BB;
+  painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  switch (sign) {
-    case ToolSign::kTotal:
-      return Draw_Sum(painter, size, ink);
-    case ToolSign::kSteelPipe:
-      return Draw_Section(painter, size, kSteel.lighter(140));
-    case ToolSign::kCopperTube:
-      return Draw_Section(painter, size, kCopper.lighter(125));
-    case ToolSign::kMetricPipe:
-      return Draw_Section(painter, size, kPlastic.lighter(150));
-    case ToolSign::kSheet:
-      return Draw_Slab(painter, size);
-    case ToolSign::kHeatLoss:
-      return Draw_Flame(painter, size);
-    case ToolSign::kCondensation:
-      return Draw_Drop(painter, size);
-    case ToolSign::kAlpha:
-      return Draw_Letter(painter, size, ink, kAlphaLetter);
-    case ToolSign::kNewLambda:
-      Draw_Letter(painter, size, ink, kLambdaLetter);
-      return Draw_Star(painter, size);
-    case ToolSign::kLambda038:
-      return Draw_Letter(painter, size, ink, kLambdaLetter, ".038");
-    case ToolSign::kLambda040:
-      return Draw_Letter(painter, size, ink, kLambdaLetter, ".040");
-    case ToolSign::kSaving:
-      return Draw_Saving(painter, size, ink);
-  }
+  painter.scale(size / kGrid, size / kGrid);
+  Draw_On_Grid(painter, sign, ink);
+  painter.restore();
 }
 
 }  // namespace norvane

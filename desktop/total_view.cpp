@@ -2,19 +2,29 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include "desktop/accessible.h"
 #include "desktop/grid_binder.h"
+#include "desktop/tool_button.h"
 
 namespace norvane {
+namespace {
+
+constexpr const char* kWorkbook = "total.xls";
+
+}  // namespace
 
 TotalView::TotalView(Desktop& desktop, Total& total) : FormView(desktop, total) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(8, 8, 8, 8);
   auto* tools = new QHBoxLayout;
-  auto* to_excel = new QPushButton;
+  auto* to_excel = new ToolButton(ToolSign::kSpreadsheet);
+  to_excel->setCheckable(false);
+  // The workbook's name is the same in all languages.
+  Tell(*to_excel, kWorkbook);
+  to_excel->setToolTip(kWorkbook);
   tools->addWidget(to_excel);
   tools->addStretch();
   column->addLayout(tools);

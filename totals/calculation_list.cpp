@@ -55,10 +55,12 @@ void Fill_Calculation_list(Module1& module1, const std::string& strProductKey) {
   Calc_List.emplace_back();
 }
 
-bool Has_Saved_Lines(const Module1& module1) {
-  // Beside them the list has its header and the spare element.
-  return module1.Calc_List.size() > 2;
+std::size_t Count_Saved_Lines(const Module1& module1) {
+  constexpr std::size_t kHeaderAndSpare = 2;
+  return std::max(module1.Calc_List.size(), kHeaderAndSpare) - kHeaderAndSpare;
 }
+
+bool Has_Saved_Lines(const Module1& module1) { return Count_Saved_Lines(module1) > 0; }
 
 std::string Saved_Lines_As_Text(const Module1& module1) {
   if (!Has_Saved_Lines(module1)) return {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace norvane {
@@ -14,7 +15,8 @@ void setHeaders(Module1& module1);
 /// field. Throws `RuntimeError` 5 for a product that doesn't exist, and 6 for the 32,767th line.
 void Fill_Calculation_list(Module1& module1, const std::string& strProductKey);
 
-/// Whether the list holds saved lines.
+/// How many saved lines the list holds.
+std::size_t Count_Saved_Lines(const Module1& module1);
 bool Has_Saved_Lines(const Module1& module1);
 
 /// Header and saved lines with a tab between the cells and a line feed behind each line; empty

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -13,7 +14,9 @@
 
 #include "desktop/desktop.h"
 #include "desktop/form_view.h"
+#include "desktop/tour/workbook_rows.h"
 #include "frame/version.h"
+#include "spreadsheet/xlsx_spreadsheet.h"
 
 namespace {
 
@@ -23,9 +26,14 @@ using norvane::FormView;
 
 class Tour {
  public:
-  Tour(Desktop& desktop, const QString& pictures) : desktop_(desktop), pictures_(pictures) {}
+  Tour(const std::filesystem::path& folder, const QString& pictures)
+      : pictures_(pictures), desktop_(folder, [this](const auto& place, auto& waiting) {
+          return std::make_unique<norvane::XlsxSpreadsheet>(
+              place, waiting, [this](const auto& file) { Keep_Workbook(file.string()); });
+        }) {}
 
   void Play();
+  bool Went_Well() { return desktop_.program().Ended() && !desktop_.program().Failed(); }
 
  private:
   norvane::Module1& State() { return desktop_.program().State(); }
@@ -52,10 +60,13 @@ class Tour {
   void Show_Settings();
   void Show_Languages();
   void Show_Addresses();
+  void Show_Totals();
 
-  Desktop& desktop_;
+  void Keep_Workbook(const std::string& file);
+
   QDir pictures_;
   QTextStream out_{stdout};
+  Desktop desktop_;
 };
 
 void Tour::Type(Form& form, const QString& field, const QString& text) {
@@ -172,6 +183,33 @@ void Tour::Show_Addresses() {
   Click(address, "OK");
 }
 
+void Tour::Show_Totals() {
+  Form& warmt = State().forms.warmt.Get();
+  for (const char* thickness : {"9", "13", "20"}) {
+    Type(warmt, "txtT(2)", thickness);
+    Click(warmt, "cmdAdd");
+  }
+  Click(warmt, "picTotal");
+  Form& total = State().forms.total.Get();
+  Save(total, "10-totals");
+  out_ << "\nThree pipes. " << Find<QLabel>(total, "Label1").text() << "\n" << Qt::endl;
+  Click(total, "Toolbar1");
+  View(total).close();
+}
+
+void Tour::Keep_Workbook(const std::string& file) {
+  const QString kept = pictures_.filePath("10-totals.xlsx");
+  QFile::rename(QString::fromStdString(file), kept);
+  out_ << "workbook " << QDir::current().relativeFilePath(kept) << ", some of its columns\n";
+  for (const QStringList& row : norvane::Workbook_Rows(kept)) {
+    for (const int column : {2, 7, 8, 17, 18, 19}) {
+      out_ << "  " << row.value(column).leftJustified(20, ' ', true);
+    }
+    out_ << '\n';
+  }
+  out_ << Qt::endl;
+}
+
 void Tour::Play() {
   desktop_.Start();
   Form& about = State().forms.about.Get();
@@ -184,6 +222,7 @@ void Tour::Play() {
   Show_Settings();
   Show_Languages();
   Show_Addresses();
+  Show_Totals();
   Click(State().forms.warmt.Get(), "lblMenu(3)");
 }
 
@@ -206,7 +245,7 @@ int main(int argc, char** argv) {
     QTextStream(stderr) << "usage: norvane-tour FOLDER PICTURES\n";
     return 2;
   }
-  Desktop desktop(arguments[1].toStdString());
-  Tour(desktop, arguments[2]).Play();
-  return desktop.program().Failed() || !desktop.program().Ended() ? 1 : 0;
+  Tour tour(arguments[1].toStdString(), arguments[2]);
+  tour.Play();
+  return tour.Went_Well() ? 0 : 1;
 }

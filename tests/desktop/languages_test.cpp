@@ -30,7 +30,7 @@ class Languages : public WindowTest {
     Settle();
   }
   QString Button_Text(const Field& field) {
-    return dynamic_cast<QAbstractButton&>(Widget(field)).text();
+    return As_Read(dynamic_cast<QAbstractButton&>(Widget(field)).text());
   }
   std::vector<int> Marks() {
     std::vector<int> marks;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <set>
 
+#include "desktop/result_card.h"
 #include "window_test.h"
 
 namespace norvane {
@@ -36,7 +37,8 @@ class Sessions : public WindowTest {
 
   /// The fields that a user can do something with.
   std::set<const QWidget*> Controls() {
-    std::set<const QWidget*> controls;
+    // The results can be copied.
+    std::set<const QWidget*> controls{Main_View().findChild<ResultCard*>()};
     for (const Field* field : Screen().Fields()) {
       const QWidget* widget = Main_View().Widget_Of(*field);
       if (widget == nullptr || !widget->isVisible()) continue;

@@ -1,4 +1,6 @@
+#include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QElapsedTimer>
 #include <QTest>
 
@@ -100,6 +102,36 @@ TEST_F(End, A_Runtime_Error_Is_Told_And_Ends_The_Program_With_Status_3) {
             (SeenMessage{"Norvane", "Run-time error '6':\n\nOverflow", QMessageBox::Critical}));
   EXPECT_TRUE(desktop.program().Failed());
   Expect_Nothing_Left();
+}
+
+TEST_F(End, A_Runtime_Error_Offers_To_Copy_The_Lines_That_Were_Saved) {
+  watchdog.Expect([this](QWidget& window) {
+    for (auto* button : window.findChildren<QAbstractButton*>()) {
+      if (button->text() == "Copy saved lines") Click(*button);
+    }
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 1000));
+  });
+  const int status = Status_Of([this] {
+    Click(Screen().cmdAdd);
+    Click(Screen().cmdAdd);
+    Paste(Screen().txtmtrs, "-40000");
+  });
+  EXPECT_EQ(status, 3);
+  const QStringList lines = QGuiApplication::clipboard()->text().split('\n');
+  ASSERT_EQ(lines.size(), 4);  // the header, two lines, and nothing behind the last line's end
+  EXPECT_TRUE(lines[0].startsWith("\tProduct\tObject\tLambda\t"));
+  EXPECT_TRUE(lines[1].startsWith("\tNorvane Tube K1\tSteel pipe\t"));
+  EXPECT_EQ(lines[2], lines[1]);
+}
+
+TEST_F(End, A_Runtime_Error_Without_Saved_Lines_Has_Nothing_To_Copy) {
+  watchdog.Expect([this](QWidget& window) {
+    const auto buttons = window.findChildren<QAbstractButton*>();
+    EXPECT_EQ(buttons.size(), 1);
+    Click(*buttons.front());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 1000));
+  });
+  EXPECT_EQ(Status_Of([this] { Paste(Screen().txtmtrs, "-40000"); }), 3);
 }
 
 TEST_F(End, A_Temperature_Beyond_16_Bits_Is_The_Same_Error) {

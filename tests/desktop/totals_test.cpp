@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QTableView>
 #include <QTest>
@@ -197,6 +198,47 @@ TEST_F(Totals, Lines_That_Were_Added_Meanwhile_Are_There_On_Coming_Back) {
   Settle();
   EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "9"}));
   Expect_Same_As_Model(View(List()));
+}
+
+TEST_F(Totals, The_Columns_Are_As_Wide_As_Told_And_No_Word_Of_A_Caption_Is_Cut) {
+  Add_Lines({"6"});
+  Open();
+  EXPECT_EQ(Table().columnWidth(0), 20);  // 300 twips
+  for (int column = 1; column < List().grdResult.Cols(); ++column) {
+    EXPECT_GE(Table().columnWidth(column), 133) << column;  // 2000 twips
+  }
+}
+
+TEST_F(Totals, A_Width_That_The_User_Has_Dragged_Stays_When_Lines_Come) {
+  Add_Lines({"6"});
+  Open();
+  Table().setColumnWidth(1, 222);
+  Add_Lines({"9"});
+  norvane::Click(Widget(List().picTotal));
+  Settle();
+  EXPECT_EQ(Table().columnWidth(1), 222);
+}
+
+TEST_F(Totals, A_Full_List_Opens_Scrolls_And_Deletes_At_Once) {
+  Click(Screen().cmdAdd);
+  const std::string line = State().Calc_List[1];
+  State().Calc_List.insert(State().Calc_List.begin() + 1, 32765, line);
+  QElapsedTimer clock;
+  clock.start();
+  Open();
+  // Each takes a tenth of it on an idle machine.
+  constexpr int kLongest = 2000;  // milliseconds
+  EXPECT_LT(clock.restart(), kLongest);
+  ASSERT_EQ(Table().model()->rowCount(), 32766);
+  Table().setFocus();
+  Press(Qt::Key_End, Qt::ControlModifier);
+  Table().grab();
+  EXPECT_LT(clock.restart(), kLongest);
+  watchdog.Expect_Message(QMessageBox::Yes);
+  Press(Qt::Key_Delete);
+  Wait_For_Message(1);
+  EXPECT_LT(clock.elapsed(), kLongest);
+  EXPECT_EQ(Table().model()->rowCount(), 32765);
 }
 
 TEST_F(Totals, The_Close_Box_Closes_It) {

@@ -32,6 +32,9 @@ class Watchdog {
   /// The next modal window is a message box; its button is clicked.
   void Expect_Message(QMessageBox::StandardButton answer);
 
+  /// A test that does much takes longer than others.
+  void Set_Patience(int milliseconds) { patience_ = milliseconds; }
+
   const std::vector<SeenMessage>& Messages() const { return messages_; }
   /// Whether all that was expected has come.
   bool Content() const { return expected_.empty() && !at_work_; }
@@ -42,6 +45,7 @@ class Watchdog {
   void Close(QWidget& window);
 
   QTimer timer_;
+  int patience_ = 15000;  // milliseconds for the test
   int looks_ = 0;
   bool at_work_ = false;
   std::vector<QPointer<QWidget>> seen_;

@@ -8,7 +8,8 @@
 
 namespace norvane {
 
-DesktopTest::DesktopTest() {
+DesktopTest::DesktopTest(const Desktop::SpreadsheetMaker& make_spreadsheet)
+    : desktop(folder.Path(), make_spreadsheet) {
   // Where no window comes to lie under the real pointer.
   QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
 }

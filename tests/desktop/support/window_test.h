@@ -25,7 +25,7 @@ namespace norvane {
 /// The whole program on the display, not started yet.
 class DesktopTest : public testing::Test {
  protected:
-  DesktopTest();
+  explicit DesktopTest(const Desktop::SpreadsheetMaker& make_spreadsheet = Make_Spreadsheet);
   ~DesktopTest() override;
 
   Module1& State() { return desktop.program().State(); }
@@ -52,18 +52,20 @@ class DesktopTest : public testing::Test {
 
   /// What a widget of the main screen shows.
   std::string Shown(const TextField& field) { return Edit(field).text().toStdString(); }
-  std::string Shown(const CaptionField& field) { return Label(field).text().toStdString(); }
+  std::string Shown(const CaptionField& field) { return As_Read(Label(field).text()).toStdString(); }
 
   void Wait_Until_Active(const Form& form);
 
   FolderOfProgram folder;
   Watchdog watchdog;
-  Desktop desktop{folder.Path()};
+  Desktop desktop;
 };
 
 /// The same, with the main screen in front as the splash screen leaves it.
 class WindowTest : public DesktopTest {
  protected:
+  using DesktopTest::DesktopTest;
+
   void SetUp() override;
   /// Whatever a test did, the window shows what the program holds.
   void TearDown() override;

@@ -1,0 +1,136 @@
+#include "desktop/result_card.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "desktop/accessible.h"
+#include "desktop/colours.h"
+#include "desktop/columns.h"
+#include "desktop/form_view.h"
+#include "screen/warmt.h"
+
+namespace norvane {
+namespace {
+
+constexpr int kSavingRow = 5;  // the first of the savings, which has a percentage too
+constexpr int kLastRow = 8;
+
+}  // namespace
+
+ResultCard::ResultCard(FormView& view, Warmt& warmt) : view_(view), warmt_(warmt) {
+  setFocusPolicy(Qt::StrongFocus);
+  auto* grid = new QGridLayout(this);
+  Lay_Out_Columns(*grid);
+  grid->setVerticalSpacing(0);
+  Add_Letters(*grid);
+  int place = 0;
+  for (int row = 0; row < kSavingRow; ++row) Add_Row(*grid, place++, row, row);
+  Add_Savings_Heading(*grid, place);
+  place += 2;
+  // From the savings on the values run one ahead of the headings.
+  for (int row = kSavingRow; row <= kLastRow; ++row) Add_Row(*grid, place++, row, row + 1);
+  grid->setRowStretch(place, 1);
+  setFixedHeight((kLastRow + 2) * kRowHeight + 30);
+}
+
+void ResultCard::Add_Letters(QGridLayout& grid) {
+  for (const int row : {0, 1}) Add_Label(grid, row, kLetterColumn, warmt_.Label2(row));
+}
+
+QLabel* ResultCard::Add_Label(QGridLayout& grid, int place, int column, CaptionField& field) {
+  auto* label = new QLabel;
+  grid.addWidget(label, place, column);
+  view_.Bind<CaptionBinder>(field, *label);
+  return label;
+}
+
+void ResultCard::Add_Row(QGridLayout& grid, int place, int heading, int value) {
+  Row row{};
+  row.heading = Add_Label(grid, place, kHeadingColumn, warmt_.Label3(heading));
+  row.heading->setMinimumHeight(kRowHeight);
+  row.value = Add_Label(grid, place, kNumberColumn, warmt_.Label4(value));
+  row.unit = Add_Label(grid, place, kUnitColumn, warmt_.Label9(heading));
+  if (heading == kSavingRow) {
+    row.percent = Add_Label(grid, place, kSecondNumberColumn, warmt_.Label4(kSavingRow));
+  }
+  for (QLabel* number : {row.value, row.percent}) {
+    if (number == nullptr) continue;
+    number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    number->setMargin(4);
+  }
+  rows_.push_back(row);
+}
+
+void ResultCard::Add_Savings_Heading(QGridLayout& grid, int place) {
+  line_ = new QFrame;
+  line_->setFrameShape(QFrame::HLine);
+  line_->setFrameShadow(QFrame::Plain);
+  line_->setForegroundRole(QPalette::Mid);
+  grid.addWidget(line_, place, 0, 1, kSecondUnitColumn + 1);
+  savings_heading_ = new QLabel;
+  savings_heading_->setMinimumHeight(kRowHeight);
+  grid.addWidget(savings_heading_, place + 1, 0, 1, kSecondUnitColumn + 1);
+  view_.Bind<CaptionBinder>(warmt_.Label6, *savings_heading_);
+}
+
+void ResultCard::Follow_Mode() { line_->setVisible(warmt_.Label6.Visible()); }
+
+void ResultCard::Name_Values(const QString& mode) {
+  for (const Row& row : rows_) {
+    const QString told = row.value->text() + ' ' + row.unit->text();
+    Tell(*row.value, row.heading->text() + ": " + told);
+    if (row.percent != nullptr) {
+      Tell(*row.percent, row.heading->text() + ": " + row.percent->text());
+    }
+  }
+  Tell(*this, mode, As_Text());
+}
+
+QString ResultCard::As_Text() const {
+  const auto widest = [this](QLabel* Row::*part) {
+    qsizetype width = 0;
+    for (const Row& row : rows_) {
+      if (row.heading->isVisibleTo(this)) width = std::max(width, (row.*part)->text().size());
+    }
+    return width;
+  };
+  const qsizetype headings = widest(&Row::heading);
+  const qsizetype values = widest(&Row::value);
+  const qsizetype units = widest(&Row::unit);
+  QStringList lines;
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    const Row& row = rows_[i];
+    if (!row.heading->isVisibleTo(this)) continue;
+    if (i == kSavingRow) lines << savings_heading_->text();
+    QString line = row.heading->text().leftJustified(headings) + "  " +
+                   row.value->text().rightJustified(values) + ' ' + row.unit->text();
+    if (row.percent != nullptr) {
+      line += QString(units - row.unit->text().size() + 2, ' ') + row.percent->text();
+    }
+    lines << line;
+  }
+  return lines.join('\n') + '\n';
+}
+
+void ResultCard::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) {
+    QApplication::clipboard()->setText(As_Text());
+  } else {
+    Card::keyPressEvent(event);
+  }
+}
+
+void ResultCard::paintEvent(QPaintEvent* event) {
+  Card::paintEvent(event);
+  if (!hasFocus()) return;
+  constexpr qreal kRadius = 5;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(kAccent, 2));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), kRadius, kRadius);
+}
+
+}  // namespace norvane

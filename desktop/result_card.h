@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QLabel>
+#include <vector>
+
+#include "desktop/card.h"
+
+class QFrame;
+class QGridLayout;
+
+namespace norvane {
+
+class CaptionField;
+class FormView;
+class Warmt;
+
+/// The result rows of the main screen. With the focus, Ctrl+C copies those that show as text.
+class ResultCard : public Card {
+  Q_OBJECT
+
+ public:
+  ResultCard(FormView& view, Warmt& warmt);
+
+  /// Shows the line above the savings while they show.
+  void Follow_Mode();
+  /// Gives each value the words that a screen reader tells when it has changed.
+  void Name_Values(const QString& mode);
+
+  /// The rows that show, in aligned columns, a line each.
+  QString As_Text() const;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  /// The labels of a row; `percent` is there for the saving only.
+  struct Row {
+    QLabel* heading;
+    QLabel* value;
+    QLabel* unit;
+    QLabel* percent;
+  };
+
+  void Add_Letters(QGridLayout& grid);
+  void Add_Row(QGridLayout& grid, int place, int heading, int value);
+  void Add_Savings_Heading(QGridLayout& grid, int place);
+  QLabel* Add_Label(QGridLayout& grid, int place, int column, CaptionField& field);
+
+  FormView& view_;
+  Warmt& warmt_;
+  QFrame* line_ = nullptr;
+  QLabel* savings_heading_ = nullptr;
+  std::vector<Row> rows_;
+};
+
+}  // namespace norvane

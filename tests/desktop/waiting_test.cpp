@@ -1,0 +1,102 @@
+#include "spreadsheet/waiting.h"
+
+#include <QApplication>
+#include <QProgressDialog>
+#include <QTest>
+
+#include "window_test.h"
+
+namespace norvane {
+namespace {
+
+/// What the user saw while the spreadsheet program was at work.
+struct Seen {
+  bool busy_pointer = false;
+  bool list_painted = false;
+  QString progress;
+};
+
+/// A spreadsheet program that takes its time over a list as long as it is told.
+class SlowSpreadsheet : public Spreadsheet {
+ public:
+  SlowSpreadsheet(SpreadsheetWaiting& waiting, const int& rows, Seen& seen)
+      : waiting_(waiting), rows_(rows), seen_(seen) {}
+
+  bool GetObject() override { return true; }
+  void CreateObject() override {}
+  void Set_Application_Visible() override {}
+  void Open(const std::string&, int) override {}
+  void Set_Book_Visible() override {}
+  void Select(int) override {}
+  void ClearContents(const std::string&) override {
+    QWidget* list = QApplication::activeWindow();
+    list->update();
+    waiting_.Wait_A_Moment();
+    seen_.list_painted = !list->testAttribute(Qt::WA_PendingUpdate);
+    seen_.busy_pointer = QApplication::overrideCursor() != nullptr &&
+                         QApplication::overrideCursor()->shape() == Qt::BusyCursor;
+  }
+  void Value(const std::string&, const std::vector<CellValue>&) override {
+    waiting_.Progress(rows_ / 3, rows_);
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      const auto* dialog = qobject_cast<QProgressDialog*>(window);
+      if (dialog == nullptr || !dialog->isVisible()) continue;
+      seen_.progress = dialog->labelText();
+      EXPECT_EQ(dialog->value(), rows_ / 3);
+    }
+    waiting_.Progress(0, 0);
+  }
+  void Bold(const std::string&) override {}
+  void Ask_To_Report() override {}
+  void Release() override {}
+
+ private:
+  SpreadsheetWaiting& waiting_;
+  const int& rows_;
+  Seen& seen_;
+};
+
+class Waiting : public WindowTest {
+ protected:
+  Waiting()
+      : WindowTest([this](const auto&, SpreadsheetWaiting& waiting) {
+          return std::make_unique<SlowSpreadsheet>(waiting, rows, seen);
+        }) {}
+
+  void Export() {
+    Click(Screen().cmdAdd);
+    Click(Screen().picTotal);
+    Wait_Until_Active(*State().forms.total);
+    Click(State().forms.total->Toolbar1);
+  }
+
+  int rows = 0;
+  Seen seen;
+};
+
+TEST_F(Waiting, The_Pointer_Is_Busy_And_The_Windows_Stay_Painted) {
+  Export();
+  EXPECT_TRUE(seen.busy_pointer);
+  EXPECT_TRUE(seen.list_painted);
+}
+
+TEST_F(Waiting, The_Pointer_Is_Its_Own_Again_Afterwards) {
+  Export();
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Waiting, A_Long_List_Shows_How_Far_It_Has_Come) {
+  rows = 30000;
+  Export();
+  EXPECT_EQ(seen.progress, "10000 / 30000");
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(Waiting, A_Short_List_Shows_No_Progress) {
+  rows = 100;
+  Export();
+  EXPECT_EQ(seen.progress, QString());
+}
+
+}  // namespace
+}  // namespace norvane
