@@ -16,7 +16,7 @@ if [ "${1:-}" = quick ]; then
 fi
 
 install_packages "to run all tests of Norvane" \
-  clang clang-tidy clang-format ccache xvfb openbox xauth \
+  clang clang-tidy clang-format libclang-rt-dev llvm ccache xvfb openbox xauth \
   libreoffice-calc libreoffice-dev libxlsxwriter-dev libminizip-dev python3-uno xdotool \
   at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
 
@@ -29,7 +29,12 @@ echo "== sanitize"
 cmake --preset sanitize -DNORVANE_WERROR=ON -DNORVANE_DESKTOP=OFF >/dev/null
 cmake --build --preset sanitize
 
+echo "== fuzz"
+cmake --preset fuzz -DNORVANE_WERROR=ON >/dev/null
+cmake --build --preset fuzz
+
 tests/check_sources build/clang
 ctest --test-dir build/clang --output-on-failure -L quick -j 2
 ctest --test-dir build/sanitize --output-on-failure -L quick -j 2
+ctest --test-dir build/fuzz --output-on-failure -j 2
 ctest --test-dir build/release --output-on-failure -j 2

@@ -42,13 +42,12 @@ std::size_t Numeric_Prefix(std::string_view text) {
   return at;
 }
 
-/// Whether a number that no double holds is too large rather than too small.
+/// Whether a number that no double holds is too large rather than too small; it isn't zero.
 bool Is_Beyond_Range(std::string_view number) {
   const std::size_t e = number.find_first_of("eE");
   const std::string_view mantissa = number.substr(0, e);
   const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
   const auto first = mantissa.find_first_of("123456789");
-  if (first == std::string_view::npos) return false;
   long long exponent = 0;
   if (e != std::string_view::npos) {
     const bool negative = number[e + 1] == '-';

@@ -38,7 +38,7 @@ void Decimal::Read_Scientific(std::string_view text) {
   negative_ = text.front() == '-';
   const std::size_t e = text.find('e');
   for (const char c : text.substr(0, e)) {
-    if (c >= '0' && c <= '9') digits_.push_back(c);
+    if (c != '-' && c != '.') digits_.push_back(c);
   }
   digits_.erase(digits_.find_last_not_of('0') + 1);
   if (digits_.empty()) {

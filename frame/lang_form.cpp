@@ -77,7 +77,8 @@ void Lang::Clear_Saved_Lines() {
     module1_.forms.lang.Unload();
     return;
   }
-  Show();
+  // By its reference: what the user did meanwhile may have unloaded this one.
+  module1_.forms.lang->Show();
   module1_.Calc_List.assign(1, "");
   if (module1_.forms.total.Loaded()) module1_.forms.total.Unload();
 }

@@ -30,7 +30,8 @@ std::optional<std::string> Program::Play(const UserEvent& event) {
 }
 
 void Program::Tick(TickTimer& timer) {
-  if (!timer.Enabled() || Ended()) return;
+  // A message box of the start may stand open for longer than the splash is to be seen.
+  if (!timer.Enabled() || Ended() || depth_ > 0) return;
   Run([&] { timer.On_Tick(); });
 }
 

@@ -23,7 +23,8 @@ class Program {
   /// could not do; nothing has happened then.
   std::optional<std::string> Play(const UserEvent& event);
 
-  /// A tick of a timer; nothing when the timer is disabled.
+  /// A tick of a timer; nothing when the timer is disabled, or while the start or an event is being
+  /// carried out.
   void Tick(TickTimer& timer);
 
   /// Runs a procedure that no event reaches in the way an event is carried out.

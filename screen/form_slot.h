@@ -34,7 +34,7 @@ class FormReference {
   /// Unloads the form; being a reference, it loads it first when it isn't there.
   void Unload() {
     unloaded_place_ = Get().Place();
-    if (form_) desk_.Unload(std::move(form_));
+    desk_.Unload(std::move(form_));
   }
 
  private:

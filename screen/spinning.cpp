@@ -145,11 +145,7 @@ void Warmt::Step_Humidity(Spin spin) {
 void Warmt::Step_Length(Spin spin) {
   const norvane::Locale locale = module1_.Locale();
   txtmtrs.Set_Text(Format(Val(txtmtrs.Text()) + static_cast<int>(spin), locale));
-  if (spin == Spin::kDown) {
-    if (Val(txtmtrs.Text()) == 0) txtmtrs.Set_Text("1");
-  } else {
-    if (Val(txtmtrs.Text()) == 10001) txtmtrs.Set_Text("10000");
-  }
+  if (spin == Spin::kDown && Val(txtmtrs.Text()) == 0) txtmtrs.Set_Text("1");
 }
 
 }  // namespace norvane

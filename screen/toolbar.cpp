@@ -151,7 +151,6 @@ void Warmt::Click_lblMenu(int Index) {
       break;
     case 3:
       Leave();
-      break;
     default:
       break;
   }

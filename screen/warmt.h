@@ -27,7 +27,7 @@ class Warmt : public Form {
   void Hover() override;
   void Close_Box() override;
   /// Leaves the program: unloads its forms and ends it.
-  void Leave();
+  [[noreturn]] void Leave();
 
   // init.cpp
   void Init();

@@ -46,8 +46,11 @@ bool Is_Workbook(Module1& module1, const std::string& strFile) {
          !module1.platform.files().List(strFile).empty();
 }
 
+/// 0 where the language gives no number.
 int Charset_Of(const Module1& module1) {
-  return Language_Font(module1, module1.Lang_Index, 9).charset.value_or(0);
+  int charset = 0;
+  Try([&] { charset = Language_Font(module1, module1.Lang_Index, 9).charset.value_or(0); });
+  return charset;
 }
 
 void Write_Captions(Spreadsheet& sheet, const std::vector<std::string>& captions) {

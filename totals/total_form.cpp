@@ -1,8 +1,10 @@
 #include "totals/total_form.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "calc/conversions.h"
+#include "data/runtime_error.h"
 #include "frame/language.h"
 #include "frame/shared_state.h"
 #include "frame/version.h"
@@ -131,6 +133,12 @@ void Total::Show_Sums() {
 void Total::Ask_To_Delete() {
   const auto [low, high] = std::minmax({grdResult.Row(), grdResult.RowSel()});
   if (low == 0) return;  // no line is selected
+  // Every row that stays needs its line, and a change of language takes the lines from behind them.
+  const int last_row = grdResult.Rows() - 1;
+  const int last_kept = high < last_row ? last_row : low - 1;
+  if (last_kept >= std::ssize(module1_.Calc_List)) {
+    throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
+  }
   const int deleted = high - low + 1;
   const MessageAnswer answer =
       module1_.platform.display().Message(kTitle, "Delete " + std::to_string(deleted) + " Records",

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "../data/dew_figures.h"
+#include "../data/error_of.h"
 
 namespace norvane {
 namespace {
@@ -49,6 +52,15 @@ TEST(DewTable, HoldsZeroBeyondTheFigures) {
   }
 }
 
+TEST(DewTable, HasNothingOutsideItself) {
+  const Dew_Table table;
+  EXPECT_EQ(table(Dew_Table::kRows, Dew_Table::kColumns), 0.0F);
+  EXPECT_EQ(Error_Of([&] { table(0, 1); }), 9);
+  EXPECT_EQ(Error_Of([&] { table(Dew_Table::kRows + 1, 1); }), 9);
+  EXPECT_EQ(Error_Of([&] { table(1, 0); }), 9);
+  EXPECT_EQ(Error_Of([&] { table(1, Dew_Table::kColumns + 1); }), 9);
+}
+
 TEST(DewTable, KeepsItsUnevenSteps) {
   const Dew_Table table;
   EXPECT_EQ(table(18, 4), 16.6F);
@@ -71,6 +83,12 @@ TEST(DewPoint, IsThatOfEveryCell) {
           << row.T_amb << " degrees, " << humidity << "%";
     }
   }
+}
+
+TEST(DewPoint, FindsAHumidityByTheSevenDigitsOfItsText) {
+  // The singles beside 60 read 60.000004 and 59.999996, which are 60.00000 in seven digits.
+  EXPECT_EQ(Trt_DauwPunt(24, std::nextafter(60.0F, 100.0F)), 15.8F);
+  EXPECT_EQ(Trt_DauwPunt(24, std::nextafter(60.0F, 0.0F)), 15.8F);
 }
 
 TEST(DewPoint, IsTheAirItselfAtTheCellWithoutANumber) { EXPECT_EQ(Trt_DauwPunt(-20, 30), -20.0F); }

@@ -135,6 +135,8 @@ TEST(Val, IsInfiniteBeyondTheDoubleRange) {
   EXPECT_EQ(Val("1E999"), kInfinity);
   EXPECT_EQ(Val("-1E999"), -kInfinity);
   EXPECT_EQ(Val("1e99999999999999999999"), kInfinity);
+  EXPECT_EQ(Val("1e+400"), kInfinity);
+  EXPECT_EQ(Val("1e+99999999999999999999"), kInfinity);
   EXPECT_EQ(Val(Huge("", '9')), kInfinity);
 }
 
@@ -152,6 +154,9 @@ TEST(Val, StaysZeroUnderAnyExponent) {
 TEST(Val, WeighsDigitsAgainstTheExponent) {
   EXPECT_EQ(Val(Huge("25", '0', "e-1000001")), 2.5);
   EXPECT_EQ(Val(Huge("0.", '0', "25e1000001")), 2.5);
+  EXPECT_EQ(Val(Huge("1", '0', "e-5")), kInfinity);
+  EXPECT_EQ(Val(Huge("0.", '0', "1e5")), 0.0);
+  EXPECT_EQ(Val(Huge("0.", '0', "1e+5")), 0.0);
 }
 
 TEST(Val, ReadsHugeTexts) {

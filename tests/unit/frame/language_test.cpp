@@ -8,7 +8,9 @@
 #include <string>
 
 #include "../support/test_program.h"
+#include "catalogue/settings_form.h"
 #include "frame/lang_form.h"
+#include "frame/settings_file.h"
 
 namespace norvane {
 namespace {
@@ -156,6 +158,56 @@ TEST_F(LanguageFiles, AreReadOnceAndNeverAgain) {
   ASSERT_EQ(program_.Click(program_.Main_Screen().lblMenu(1)), std::nullopt);
   ASSERT_EQ(program_.Click(program_.State().forms.lang->Label2(0)), std::nullopt);
   EXPECT_EQ(program_.State().Text(18), "t18");
+}
+
+/// A change of the language, of which the dialog shows slots 0 to 19.
+class ALanguageChange : public LanguageFiles {
+ protected:
+  ALanguageChange() {
+    program_.folder.Write("language.lde", "Norvane,Arial,0\r\n0,name=Deutsch-1\r\n18,Medium\r\n");
+    program_.Start();
+  }
+
+  void Select(std::int16_t slot) { program_.State().forms.lang->Select_Language(slot); }
+
+  static constexpr const char* kQuestion =
+      "message Norvane | Changing the language will clear saved data,\\r\\ndo you wish to continue "
+      "| "
+      "exclamation | yes/no -> no (unanswered)\n";
+};
+
+TEST_F(ALanguageChange, AsksWhereNoListOfCalculationsExists) {
+  Select(1);
+  EXPECT_EQ(program_.Printed(), "");
+  program_.State().Calc_List.clear();
+  Select(0);
+  EXPECT_EQ(program_.Printed(), kQuestion);
+}
+
+TEST_F(ALanguageChange, ToALanguageThatTheDialogDoesNotShowIsWrittenAlone) {
+  Tables().Lang_Code[20] = "zz";
+  Select(20);
+  EXPECT_EQ(program_.State().Lang_Index, 0);
+  EXPECT_EQ(Ini_Read(program_.State(), "norvane.ini", "Init", "Language", "en"), "zz");
+}
+
+TEST_F(ALanguageChange, GoesAsFarAsABrokenCharacterSetLetsIt) {
+  Tables().Lang_Charset[1] = "Baltic";
+  Select(1);
+  EXPECT_EQ(program_.State().Text(18), "Medium");
+  EXPECT_EQ(program_.Main_Screen().Label1(0).Caption(), "Medium");
+  EXPECT_FALSE(program_.program.Ended());
+}
+
+TEST_F(ALanguageChange, GivesTheSettingsAFontWithoutABrokenCharacterSet) {
+  Tables().Lang_FontName[1] = "Verdana";
+  Tables().Lang_Charset[1] = "Baltic";
+  program_.State().Lang_Index = 1;
+  Apply_Language_Settings(program_.State());
+  EXPECT_EQ(program_.State().forms.settings->Command1.Font(), (Font{"Verdana", 10, false, 0}));
+  Tables().Lang_Code[1] = "ru";
+  Apply_Language_Settings(program_.State());
+  EXPECT_EQ(program_.State().forms.settings->Command1.Font(), (Font{"Verdana", 9, false, 0}));
 }
 
 }  // namespace

@@ -40,6 +40,11 @@ TEST(AField, MayBeEmpty) {
   EXPECT_EQ(Fields_Of(",,a\r\n\r\n  \r\nb"), (Texts{"", "", "a", "", "", "b"}));
 }
 
+TEST(AField, IsEmptyWhereTheFileEndsInBlanks) {
+  EXPECT_EQ(Fields_Of("a, \t"), (Texts{"a", ""}));
+  EXPECT_EQ(Fields_Of("  "), Texts{""});
+}
+
 TEST(AField, InQuotesIsTakenAsItStands) {
   EXPECT_EQ(Fields_Of("\" a, b \",c"), (Texts{" a, b ", "c"}));
   EXPECT_EQ(Fields_Of(" \t\"\"\t ,c"), (Texts{"", "c"}));

@@ -45,6 +45,16 @@ TEST_F(AUserEvent, IsCarriedOutWhereAUserCouldDoIt) {
 TEST_F(AUserEvent, WithoutAHandlerDoesNothing) {
   EXPECT_EQ(program_.Click(warmt_.Label0), kCarriedOut);
   EXPECT_EQ(program_.Act(UserAction::kHover, warmt_.Label0), kCarriedOut);
+  warmt_.SpinButton1(0).On_Up = nullptr;
+  EXPECT_EQ(program_.Up(warmt_.SpinButton1(0)), kCarriedOut);
+  EXPECT_EQ(warmt_.txtT(0).Text(), "80");
+}
+
+TEST_F(AUserEvent, OfAFieldDoesNothingToAFormNorOfAFormToAField) {
+  EXPECT_EQ(program_.Act(UserAction::kClick, warmt_), kCarriedOut);
+  EXPECT_EQ(program_.Act(UserAction::kCloseBox, warmt_.txtT(0)), kCarriedOut);
+  EXPECT_TRUE(warmt_.Shown());
+  EXPECT_EQ(program_.Printed(), "");
 }
 
 TEST_F(AUserEvent, OnAnInvisibleFieldIsRefused) {
@@ -120,6 +130,7 @@ TEST_F(AUserEvent, OnABackTabIsRefused) {
     EXPECT_TRUE(Refused(program_.Set(settings.Text3, "9")));
     EXPECT_TRUE(Refused(program_.Up(settings.UpDown1_0)));
     EXPECT_TRUE(Refused(program_.Act(UserAction::kPickTab, settings.SSTab1, 3)));
+    EXPECT_TRUE(Refused(program_.Act(UserAction::kPickTab, settings.SSTab1, -1)));
     EXPECT_EQ(program_.Act(UserAction::kPickTab, settings.SSTab1, Settings::kAlphaTab),
               kCarriedOut);
     EXPECT_EQ(program_.Set(settings.Text3, "9"), kCarriedOut);
@@ -183,6 +194,15 @@ TEST_F(AUserEvent, ThatFailsInsideAModalFormEndsTheProgramOnce) {
   EXPECT_EQ(program_.Click(warmt_.cmdToolBar4(0)), kCarriedOut);
   EXPECT_EQ(program_.Printed(), "runtime error 6: Overflow\n");
   EXPECT_TRUE(program_.program.Failed());
+}
+
+TEST_F(AUserEvent, OfTheClockIsIdleAfterTheEnd) {
+  About& about = *program_.State().forms.about;
+  about.Timer1.Set_Enabled(true);
+  ASSERT_EQ(program_.Set(warmt_.txtT(0), "40000"), kCarriedOut);
+  ASSERT_TRUE(program_.program.Ended());
+  program_.program.Tick(about.Timer1);
+  EXPECT_EQ(about.Tick_Count, 3);
 }
 
 TEST_F(AUserEvent, OfTheClockIsIdleOnceTheTimerIsDisabled) {

@@ -95,6 +95,13 @@ TEST_F(AField, TellsNothingForWhatItHasByDesign) {
             Told{});
 }
 
+TEST_F(AField, TellsColoursApartByEachOfTheirParts) {
+  for (const BackColor& other : {BackColor{9, 2, 3}, BackColor{1, 9, 3}, BackColor{1, 2, 9}}) {
+    form_.Text1.Set_BackColor({1, 2, 3});
+    Tells_Once(form_.Text1, Attribute::kBackColor, [&] { form_.Text1.Set_BackColor(other); });
+  }
+}
+
 TEST_F(AField, TellsTheSystemsColourFromBlack) {
   EXPECT_NE(kSystemWindow, (BackColor{0, 0, 0}));
   Tells_Once(form_.Text1, Attribute::kBackColor, [&] { form_.Text1.Set_BackColor({0, 0, 0}); });
@@ -173,6 +180,23 @@ TEST_F(ARowOfTabs, RaisesClickWhenAnotherComesToTheFront) {
   form_.front.Set_Tab(1);
   form_.front.Set_Tab(1);
   EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ARowOfTabs, HasTheTabsOfItsCaptionsAlone) {
+  Tabs& tabs = form_.front;
+  EXPECT_EQ(tabs.TabCaption(0), "a");
+  EXPECT_EQ(tabs.TabCaption(2), "c");
+  for (const int outside : {-1, 3}) {
+    EXPECT_EQ(Error_Of([&] { tabs.Set_Tab(outside); }), 5) << outside;
+    EXPECT_EQ(Error_Of([&] { tabs.TabCaption(outside); }), 5) << outside;
+    EXPECT_EQ(Error_Of([&] { tabs.Set_TabCaption(outside, "x"); }), 5) << outside;
+  }
+  EXPECT_EQ(tabs.Tab(), 0);
+}
+
+TEST_F(ARowOfTabs, HidesNothingOnAFormThatHasNone) {
+  form_.Text1.on_tab = 1;
+  EXPECT_TRUE(form_.Shows(form_.Text1));
 }
 
 TEST_F(ARowOfTabs, ShowsTheFieldsOfItsFrontAlone) {

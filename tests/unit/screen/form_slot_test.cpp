@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "../support/test_program.h"
 #include "catalogue/address_form.h"
 #include "catalogue/settings_form.h"
@@ -65,6 +67,17 @@ TEST_F(AFormOnce, LoadsAnotherFormInTheMidstOfItsOwnLoad) {
   EXPECT_EQ(desk_.Logged(),
             (Log{"First is made", "display gets First", "First Load", "Second is made",
                  "display gets Second", "Second Load", "First goes on"}));
+}
+
+TEST_F(AFormOnce, MayHaveNoHandlersOfItsOwn) {
+  FormReference plain(desk_.desk,
+                      [this] { return std::make_unique<Form>(desk_.desk, "Plain", 3000, 2000); });
+  Form& form = plain.Get();
+  form.Show();
+  form.Hover();
+  form.Close_Box();
+  EXPECT_TRUE(form.Is_Active());
+  EXPECT_EQ(desk_.Logged(), Log{"display gets Plain"});
 }
 
 TEST_F(AFormOnce, IsNotShownByBeingLoadedOrHidden) {

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
+#include "../data/error_of.h"
 #include "../support/test_program.h"
 
 namespace norvane {
@@ -188,6 +191,38 @@ TEST_F(CalculationsOfAClick, LeaveTheHandlersAwake) {
 
 TEST_F(CalculationsOfAClick, OnAModeButtonDoNotColourTheLambda) {
   EXPECT_EQ(Calculations([this] { program_.Click(warmt_.cmdToolBarT); }), 0);
+}
+
+class ASpinPair : public testing::Test {
+ protected:
+  ASpinPair() { program_.Start(); }
+
+  TestProgram program_;
+  Warmt& warmt_ = program_.Main_Screen();
+};
+
+TEST_F(ASpinPair, OfARowThatIsNotThereStepsNothing) {
+  std::vector<std::string> changed;
+  const Watch watch(warmt_, [&](const Field& field, Attribute attribute) {
+    if (attribute == Attribute::kText) changed.push_back(field.Name());
+  });
+  warmt_.UpClick(6);
+  warmt_.DownClick(6);
+  EXPECT_EQ(changed, std::vector<std::string>{});
+}
+
+TEST_F(ASpinPair, OfTheTablesFailsFromAPlaceOutsideThem) {
+  program_.Click(warmt_.cmdToolBarC);
+  const auto last = static_cast<std::int16_t>(warmt_.Dew_Temps.size() - 1);
+  warmt_.Idx_A1 = -3;
+  EXPECT_EQ(Error_Of([this] { warmt_.UpClick(1); }), 9);
+  warmt_.Idx_A1 = static_cast<std::int16_t>(last + 2);
+  EXPECT_EQ(Error_Of([this] { warmt_.DownClick(1); }), 9);
+  // From one beyond its end the ring is still reached.
+  warmt_.Calc_Busy = false;
+  warmt_.Idx_A1 = static_cast<std::int16_t>(last + 1);
+  EXPECT_EQ(Error_Of([this] { warmt_.DownClick(1); }), 0);
+  EXPECT_EQ(warmt_.txtC(1).Text(), "50");
 }
 
 }  // namespace

@@ -57,6 +57,12 @@ TEST_F(TheListOfCalculations, IsMadeAnewWhenItDoesNotExist) {
   EXPECT_EQ(List()[1].front(), '\t');
 }
 
+TEST_F(TheListOfCalculations, IsATextOfLinesWithTabsBetweenTheCells) {
+  EXPECT_EQ(Saved_Lines_As_Text(program_.State()), "");
+  List() = {"~a~b", "\t1\t2", "\t3\t4", ""};
+  EXPECT_EQ(Saved_Lines_As_Text(program_.State()), "\ta\tb\n\t1\t2\n\t3\t4\n");
+}
+
 TEST_F(TheListOfCalculations, IsFullWith32766Lines) {
   Add_Copies(kMostLines - 1);
   Add();

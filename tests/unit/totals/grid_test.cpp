@@ -69,6 +69,12 @@ TEST_F(AGrid, TakesASelectionAsItWasDragged) {
   EXPECT_EQ(released, 1);
 }
 
+TEST_F(AGrid, TakesASelectionThatNobodyWaitsFor) {
+  grid_.Pick_Rows(1, 2);
+  EXPECT_EQ(grid_.Row(), 1);
+  EXPECT_EQ(grid_.RowSel(), 2);
+}
+
 TEST_F(AGrid, BeginsAnewWithoutASelection) {
   grid_.Set_Row(2);
   grid_.Start({"x"}, {300});

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <sstream>
 #include <string>
 
 #include "../support/test_program.h"
@@ -47,6 +49,45 @@ TEST_F(TheTotalScreen, MakesTheLabelOfTheSumsAsWideAsItsText) {
   EXPECT_EQ(Screen().Sums_Text.substr(0, 12), "t97   t89 = ");
   EXPECT_EQ(Screen().Label1.Caption(), Screen().Sums_Text);
   EXPECT_EQ(Screen().Label1.Place().width, 90.0 * static_cast<double>(Screen().Sums_Text.size()));
+}
+
+TEST_F(TheTotalScreen, ClosesWithoutAHeader) {
+  program_.State().Calc_List[0].clear();
+  Open();
+  EXPECT_FALSE(program_.State().forms.total.Loaded());
+  EXPECT_TRUE(warmt_.Is_Active());
+}
+
+class TheExport : public TheTotalScreen {
+ protected:
+  TheExport() {
+    program_.folder.Write("total.xls", "");
+    program_.platform.Recorder().Set_Present(true);
+    Open();
+  }
+
+  /// The recorded operations that begin like this, a line each.
+  std::string Exported(const std::string& operation) {
+    Screen().Xls_Export("total.xls");
+    std::istringstream printed(program_.Printed());
+    std::string found;
+    for (std::string line; std::getline(printed, line);) {
+      if (line.starts_with("spreadsheet " + operation)) found += line + "\n";
+    }
+    return found;
+  }
+};
+
+TEST_F(TheExport, OpensTheWorkbookUnderALanguageWithoutACharacterSet) {
+  program_.State().languages.Lang_Charset[0] = "Baltic";
+  EXPECT_EQ(Exported("Open"), "spreadsheet Open total.xls\n");
+  program_.State().languages.Lang_Charset[0] = std::nullopt;
+  EXPECT_EQ(Exported("Open"), "spreadsheet Open total.xls\n");
+}
+
+TEST_F(TheExport, WritesNoLinesOfAListThatDoesNotExist) {
+  program_.State().Calc_List.clear();
+  EXPECT_EQ(Exported("Value A3"), "");
 }
 
 }  // namespace

@@ -1,0 +1,44 @@
+#!/bin/sh
+# Runs the fuzzers for so many minutes (10 if left out), as many at a time as the machine has cores,
+# and prints what each did. Fails when anything was found.
+#   ./fuzz.sh [MINUTES]
+# A find lies in build/fuzz-finds, named by its fuzzer; give it to the fuzzer to see it again. What the
+# fuzzers learn goes to build/fuzz-corpus, and the next run begins with it.
+set -eu
+cd "$(dirname "$0")"
+minutes=${1:-10}
+
+. packaging/install_packages.sh
+install_packages "to build the fuzzers" clang libclang-rt-dev llvm cmake ninja-build ccache
+cmake --preset fuzz -DNORVANE_WERROR=ON >/dev/null
+cmake --build --preset fuzz
+
+fuzzers="address_files export language_files numbers settings_file user_events"
+finds=build/fuzz-finds
+mkdir -p "$finds"
+cores=$(nproc)
+# shellcheck disable=SC2086
+set -- $fuzzers
+seconds=$((minutes * 60 * cores / $#))
+[ "$seconds" -gt 0 ] || seconds=1
+echo "Each fuzzer runs for $seconds seconds."
+
+# run_one FUZZER SECONDS: its last lines are the figures; a find stops it.
+cat >build/fuzz/run_one <<'END'
+mkdir -p "build/fuzz-corpus/$1"
+dictionary=fuzz/dictionaries/$1.dict
+[ -f "$dictionary" ] && dictionary=-dict=$dictionary || dictionary=
+"build/fuzz/fuzz/fuzz_$1" -max_total_time="$2" -timeout=20 -max_len=1024 -rss_limit_mb=4096 \
+  -print_final_stats=1 $dictionary -artifact_prefix="build/fuzz-finds/$1-" \
+  "build/fuzz-corpus/$1" "fuzz/corpus/$1" >"build/fuzz/$1.log" 2>&1 ||
+  echo "$1 has found something: see build/fuzz/$1.log"
+END
+printf '%s\n' "$@" | xargs -P "$cores" -I '{}' sh build/fuzz/run_one '{}' "$seconds"
+
+figure() { sed -n "s/^stat::$2: *//p" "build/fuzz/$1.log"; }
+printf '%-16s %12s %10s %10s %6s\n' fuzzer executions seconds corpus finds
+for fuzzer in $fuzzers; do
+  printf '%-16s %12s %10s %10s %6s\n' "$fuzzer" "$(figure "$fuzzer" number_of_executed_units)" "$seconds" \
+    "$(find "build/fuzz-corpus/$fuzzer" -type f | wc -l)" "$(find "$finds" -name "$fuzzer-*" | wc -l)"
+done
+[ -z "$(find "$finds" -type f)" ]
