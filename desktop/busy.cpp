@@ -1,6 +1,7 @@
 #include "desktop/busy.h"
 
 #include <QApplication>
+#include <QScopedValueRollback>
 
 #include "frame/version.h"
 
@@ -14,6 +15,7 @@ constexpr int kLongList = 2000;  // rows; fewer are written before anybody could
 void Busy::Wait_A_Moment() {
   if (!pointer_shown_) QApplication::setOverrideCursor(Qt::BusyCursor);
   pointer_shown_ = true;
+  const QScopedValueRollback<bool> painting(painting_, true);
   // No event of the user: the program is in the middle of one.
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
@@ -32,11 +34,14 @@ void Busy::Progress(int done, int total) {
   }
   progress_->setMaximum(total);
   progress_->setLabelText(QString("%1 / %2").arg(done).arg(total));
+  const QScopedValueRollback<bool> painting(painting_, true);
   progress_->setValue(done);
   Wait_A_Moment();
 }
 
 void Busy::End() {
+  // A window that is resized or activated meanwhile ends an event of its own.
+  if (painting_) return;
   progress_.reset();
   if (pointer_shown_) QApplication::restoreOverrideCursor();
   pointer_shown_ = false;

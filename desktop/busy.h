@@ -21,6 +21,7 @@ class Busy : public SpreadsheetWaiting {
 
  private:
   bool pointer_shown_ = false;
+  bool painting_ = false;  ///< events are let in
   std::unique_ptr<QProgressDialog> progress_;
 };
 

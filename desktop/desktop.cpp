@@ -114,11 +114,13 @@ void Desktop::Start() {
 }
 
 void Desktop::Play(const UserEvent& event) {
+  if (program_.Ended()) return;  // while its last message is still to be read
   program_.Play(event);
   After_Program_Call();
 }
 
 void Desktop::Tick(TickTimer& timer) {
+  if (program_.Ended()) return;
   program_.Tick(timer);
   After_Program_Call();
 }
@@ -182,19 +184,17 @@ void Desktop::Runtime_Error(int number, const std::string& words) {
       QString("Run-time error '%1':\n\n%2").arg(number).arg(QString::fromStdString(words));
   QMessageBox box(QMessageBox::Critical, kTitle, text, QMessageBox::Ok, Front_Window());
   box.setTextFormat(Qt::PlainText);
-  // The program ends, but the user's lines need not be lost with it.
-  QPushButton* copy = nullptr;
+  // The program ends, but the user's lines need not be lost with it. The message stays: on many
+  // desktops what was copied is gone with the program that copied it.
   if (Has_Saved_Lines(program_.State())) {
-    copy = box.addButton("Copy saved lines", QMessageBox::ActionRole);
+    QPushButton* copy = box.addButton("Copy saved lines", QMessageBox::ActionRole);
+    copy->disconnect();
+    QObject::connect(copy, &QPushButton::clicked, copy, [this, copy] {
+      QApplication::clipboard()->setText(Text(Saved_Lines_As_Text(program_.State())));
+      copy->setEnabled(false);
+    });
   }
   box.exec();
-  if (copy != nullptr && box.clickedButton() == copy) Copy_Saved_Lines();
-}
-
-void Desktop::Copy_Saved_Lines() {
-  QApplication::clipboard()->setText(Text(Saved_Lines_As_Text(program_.State())));
-  // The clipboard of this process goes with it; whoever keeps clipboards gets it before.
-  QCoreApplication::processEvents();
 }
 
 }  // namespace norvane

@@ -65,7 +65,6 @@ class Desktop : public Platform, public Display {
 
  private:
   void After_Program_Call();
-  void Copy_Saved_Lines();
   QWidget* Front_Window() const;
 
   DiskFiles files_;

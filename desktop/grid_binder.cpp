@@ -84,6 +84,7 @@ GridBinder::GridBinder(FormView& view, Grid& field, QTableView& table)
   table.horizontalHeader()->setMinimumSectionSize(To_Pixels(kNarrowestColumn));
   // All rows are picked whole; captions that turn bold for that would outgrow their columns.
   table.horizontalHeader()->setHighlightSections(false);
+  table.setAlternatingRowColors(true);
   table.setWordWrap(false);
   auto* events = new TableEvents(table);
   QObject::connect(events, &TableEvents::Picked, &table, [this] { Pick(); });

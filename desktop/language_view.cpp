@@ -12,9 +12,9 @@
 namespace norvane {
 namespace {
 
-constexpr int kEntryHeight = 29;
+constexpr int kEntryHeight = 27;
 constexpr int kNameWidth = 104;
-constexpr int kShownEntries = 14;  // the others have no version field and fall off the form
+constexpr int kShownEntries = 16;  // the others fall off the form
 
 }  // namespace
 
@@ -63,9 +63,11 @@ QWidget* LanguageView::Make_Entry(Lang& lang, int index) {
   name->setMinimumWidth(kNameWidth);
   row->addWidget(name);
   Bind<CaptionButtonBinder>(lang.Label2(index), *name);
-  auto* version = new QLabel;
-  row->addWidget(version);
-  Bind<CaptionBinder>(lang.Label3(index), *version);
+  if (index <= lang.Label3.UBound()) {
+    auto* version = new QLabel;
+    row->addWidget(version);
+    Bind<CaptionBinder>(lang.Label3(index), *version);
+  }
   row->addStretch();
   return entry;
 }

@@ -3,6 +3,7 @@
 
 #include "desktop/app_icon.h"
 #include "desktop/desktop.h"
+#include "desktop/own_fonts.h"
 #include "frame/version.h"
 
 int main(int argc, char** argv) {
@@ -10,6 +11,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(norvane::kTitle);
   QApplication::setDesktopFileName("norvane");
   QApplication::setWindowIcon(norvane::App_Icon());
+  norvane::Use_Own_Fonts_At_Need(QCoreApplication::applicationDirPath());
   // Where the font of most languages is missing, one with the same widths stands for it.
   QFont::insertSubstitutions("Arial", {"Liberation Sans", "Arimo", "Nimbus Sans", "Helvetica"});
   QApplication::setQuitOnLastWindowClosed(false);

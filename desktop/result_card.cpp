@@ -65,10 +65,8 @@ void ResultCard::Add_Row(QGridLayout& grid, int place, int heading, int value) {
 }
 
 void ResultCard::Add_Savings_Heading(QGridLayout& grid, int place) {
-  line_ = new QFrame;
-  line_->setFrameShape(QFrame::HLine);
-  line_->setFrameShadow(QFrame::Plain);
-  line_->setForegroundRole(QPalette::Mid);
+  line_ = new CardRule;
+  line_->setFixedHeight(1);
   grid.addWidget(line_, place, 0, 1, kSecondUnitColumn + 1);
   savings_heading_ = new QLabel;
   savings_heading_->setMinimumHeight(kRowHeight);

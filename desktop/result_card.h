@@ -5,7 +5,6 @@
 
 #include "desktop/card.h"
 
-class QFrame;
 class QGridLayout;
 
 namespace norvane {
@@ -49,7 +48,7 @@ class ResultCard : public Card {
 
   FormView& view_;
   Warmt& warmt_;
-  QFrame* line_ = nullptr;
+  CardRule* line_ = nullptr;
   QLabel* savings_heading_ = nullptr;
   std::vector<Row> rows_;
 };

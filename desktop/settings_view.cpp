@@ -12,6 +12,7 @@
 #include "desktop/desktop.h"
 #include "desktop/number_edit.h"
 #include "desktop/spin_arrows.h"
+#include "screen/warmt.h"
 
 namespace norvane {
 
@@ -35,7 +36,7 @@ SettingsView::SettingsView(Desktop& desktop, Settings& settings)
   Add_Saving_Row(*grid, 2, settings.Label6(1), settings.Text2(1), settings.UpDown1_1);
 
   auto* lambda = new NumberEdit;
-  grid->addWidget(lambda, 3, 1);
+  grid->addWidget(lambda, 3, 0, 1, 2, Qt::AlignLeft);
   Bind<TextBinder>(settings.Text1, *lambda);
 
   for (CaptionField* field : {&settings.Label2, &settings.Label1(0)}) {
@@ -88,6 +89,26 @@ void SettingsView::Arrange() {
   name_stepped(settings_.Text2(1), settings_.UpDown1_1, settings_.Label6(1));
   name(settings_.Text1, settings_.SSTab1.TabCaption(Settings::kLambdaTab));
   name(settings_.Text3, settings_.Label2.Caption());
+}
+
+void SettingsView::Place_Window() {
+  FormView::Place_Window();
+  // The form names no place: over the main screen, where the user looks.
+  auto& warmt = desktop().program().State().forms.warmt;
+  if (!warmt.Loaded()) return;
+  const QWidget* main_screen = desktop().View_Of(warmt.Get());
+  if (main_screen->isVisible()) move(main_screen->geometry().center() - rect().center());
+}
+
+void SettingsView::showEvent(QShowEvent* event) {
+  FormView::showEvent(event);
+  // A number can be typed at once.
+  for (const TextField* field : {&settings_.Text2(0), &settings_.Text1, &settings_.Text3}) {
+    auto* edit = dynamic_cast<QLineEdit*>(Widget_Of(*field));
+    if (!edit->isVisibleTo(this)) continue;
+    edit->setFocus(Qt::OtherFocusReason);
+    edit->selectAll();
+  }
 }
 
 void SettingsView::keyPressEvent(QKeyEvent* event) {

@@ -16,7 +16,9 @@ class SettingsView : public FormView {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void Arrange() override;
+  void Place_Window() override;
 
  private:
   void Add_Saving_Row(QGridLayout& grid, int row, CaptionField& heading, TextField& field,

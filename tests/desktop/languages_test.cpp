@@ -130,6 +130,27 @@ TEST_F(Languages, Greek_Is_Shown_In_Greek) {
   Expect_Same_As_Model(Main_View());
 }
 
+class SixteenLanguages : public Languages {
+ protected:
+  void SetUp() override {
+    for (const char* name : {"language.lya", "language.lyb"}) {
+      folder.Write(name, "Norvane,Arial,0\n0,name=Extra-9.9\n");
+    }
+    Languages::SetUp();
+  }
+};
+
+TEST_F(SixteenLanguages, The_Last_Two_Have_A_Name_And_No_Version) {
+  Open();
+  for (const int slot : {14, 15}) {
+    EXPECT_EQ(Button_Text(List().Label2(slot)), "Extra") << slot;
+    EXPECT_TRUE(Widget(List().Label2(slot)).isVisible()) << slot;
+  }
+  Expect_Room_For_All(View(List()));
+  Choose("yb");
+  EXPECT_EQ(Shown(Screen().Label10), "Extra 9.9");
+}
+
 TEST_F(Languages, There_Is_Room_For_Each_Language_In_Both_Modes) {
   Open();
   const QSize size = Main_View().size();

@@ -52,6 +52,21 @@ TEST_F(SettingsDialog, Each_Of_Its_Buttons_Brings_Its_Tab_To_The_Front) {
   With_Dialog(Screen().cmdToolBar3(0), [&] { look(2); });
 }
 
+TEST_F(SettingsDialog, A_Number_Can_Be_Typed_As_Soon_As_It_Is_Open) {
+  With_Dialog(Screen().cmdToolBar3(0), [] {
+    Type("20");
+    Press(Qt::Key_Return);
+  });
+  EXPECT_EQ(Shown(Screen().Label4(1)), "20.0");
+}
+
+TEST_F(SettingsDialog, It_Stands_Over_The_Main_Screen) {
+  With_Dialog(Screen().cmdToolBar5(0), [this] {
+    EXPECT_TRUE(Main_View().frameGeometry().contains(View(Dialog()).geometry()));
+    Press(Qt::Key_Escape);
+  });
+}
+
 TEST_F(SettingsDialog, A_Click_On_A_Tab_Shows_Its_Fields) {
   With_Dialog(Screen().cmdToolBar5(0), [this] {
     Click_Tab(1);

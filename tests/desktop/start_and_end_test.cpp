@@ -57,6 +57,20 @@ TEST_F(Start, Without_Any_Language_The_Program_Says_So_And_Ends) {
   EXPECT_TRUE(watchdog.Messages()[0].text.contains("www.norvane.example"));
 }
 
+TEST_F(Start, A_Runtime_Error_During_The_Start_Stays_Until_It_Is_Answered) {
+  folder.Write("norvane.ini", "[Setting]\r\nHr_Day= 99999\r\n");
+  bool stayed = false;
+  watchdog.Expect([&](QWidget& window) {
+    QTest::qWait(2500);  // ticks of the splash screen's timer fall into it
+    stayed = window.isVisible();
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 1000));
+  });
+  QTimer::singleShot(0, qApp, [this] { desktop.Start(); });
+  EXPECT_EQ(QApplication::exec(), 3);
+  EXPECT_TRUE(stayed);
+}
+
 class End : public WindowTest {
  protected:
   void Expect_Nothing_Left() {
@@ -109,6 +123,10 @@ TEST_F(End, A_Runtime_Error_Offers_To_Copy_The_Lines_That_Were_Saved) {
     for (auto* button : window.findChildren<QAbstractButton*>()) {
       if (button->text() == "Copy saved lines") Click(*button);
     }
+    // It stays open, so that the lines can be pasted while the program is still there.
+    Settle();
+    EXPECT_TRUE(window.isVisible());
+    Click(*dynamic_cast<QMessageBox&>(window).button(QMessageBox::Ok));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 1000));
   });
   const int status = Status_Of([this] {

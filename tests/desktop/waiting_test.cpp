@@ -1,8 +1,10 @@
 #include "spreadsheet/waiting.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QProgressDialog>
 #include <QTest>
+#include <utility>
 
 #include "window_test.h"
 
@@ -14,6 +16,8 @@ struct Seen {
   bool busy_pointer = false;
   bool list_painted = false;
   QString progress;
+  QWidget* resized = nullptr;  ///< the window that is resized in the middle
+  bool still_busy = false;     ///< the same behind that
 };
 
 /// A spreadsheet program that takes its time over a list as long as it is told.
@@ -38,6 +42,7 @@ class SlowSpreadsheet : public Spreadsheet {
   }
   void Value(const std::string&, const std::vector<CellValue>&) override {
     waiting_.Progress(rows_ / 3, rows_);
+    if (seen_.resized) Resize_Meanwhile();
     for (QWidget* window : QApplication::topLevelWidgets()) {
       const auto* dialog = qobject_cast<QProgressDialog*>(window);
       if (dialog == nullptr || !dialog->isVisible()) continue;
@@ -51,6 +56,16 @@ class SlowSpreadsheet : public Spreadsheet {
   void Release() override {}
 
  private:
+  /// As by the window manager, which the program can't hold off.
+  void Resize_Meanwhile() {
+    std::exchange(seen_.resized, nullptr)->resize(900, 500);
+    const QDeadlineTimer enough(400);
+    for (int row = rows_ / 3 + 1; !enough.hasExpired(); ++row) waiting_.Progress(row, rows_);
+    seen_.still_busy =
+        QApplication::overrideCursor() != nullptr && QApplication::activeModalWidget() != nullptr;
+    waiting_.Progress(rows_ / 3, rows_);
+  }
+
   SpreadsheetWaiting& waiting_;
   const int& rows_;
   Seen& seen_;
@@ -67,10 +82,12 @@ class Waiting : public WindowTest {
     Click(Screen().cmdAdd);
     Click(Screen().picTotal);
     Wait_Until_Active(*State().forms.total);
+    if (resized) seen.resized = &View(*State().forms.total);
     Click(State().forms.total->Toolbar1);
   }
 
   int rows = 0;
+  bool resized = false;
   Seen seen;
 };
 
@@ -89,6 +106,16 @@ TEST_F(Waiting, A_Long_List_Shows_How_Far_It_Has_Come) {
   rows = 30000;
   Export();
   EXPECT_EQ(seen.progress, "10000 / 30000");
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(Waiting, A_Window_That_Is_Resized_Meanwhile_Ends_No_Waiting) {
+  rows = 30000;
+  resized = true;
+  Export();
+  EXPECT_TRUE(seen.still_busy);
+  EXPECT_EQ(seen.progress, "10000 / 30000");
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
