@@ -16,9 +16,10 @@ cmake --build --preset fuzz
 fuzzers="address_files export language_files numbers settings_file user_events"
 finds=build/fuzz-finds
 mkdir -p "$finds"
-cores=$(nproc)
 # shellcheck disable=SC2086
 set -- $fuzzers
+cores=$(nproc)
+[ "$cores" -le $# ] || cores=$#
 seconds=$((minutes * 60 * cores / $#))
 [ "$seconds" -gt 0 ] || seconds=1
 echo "Each fuzzer runs for $seconds seconds."
@@ -39,6 +40,6 @@ figure() { sed -n "s/^stat::$2: *//p" "build/fuzz/$1.log"; }
 printf '%-16s %12s %10s %10s %6s\n' fuzzer executions seconds corpus finds
 for fuzzer in $fuzzers; do
   printf '%-16s %12s %10s %10s %6s\n' "$fuzzer" "$(figure "$fuzzer" number_of_executed_units)" "$seconds" \
-    "$(find "build/fuzz-corpus/$fuzzer" -type f | wc -l)" "$(find "$finds" -name "$fuzzer-*" | wc -l)"
+    "$(find "build/fuzz-corpus/$fuzzer" -type f | wc -l)" "$(find "$finds" -name "$fuzzer-*" -newer build/fuzz/run_one | wc -l)"
 done
-[ -z "$(find "$finds" -type f)" ]
+[ -z "$(find "$finds" -type f ! -name "*slow-unit*" -newer build/fuzz/run_one)" ]

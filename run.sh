@@ -9,12 +9,11 @@ cd "$(dirname "$0")"
 office=
 command -v soffice >/dev/null && office=libreoffice-dev
 install_packages "to build and run Norvane" \
-  g++ cmake ninja-build qt6-base-dev libqt6svg6 libxlsxwriter-dev libminizip-dev fonts-liberation $office
+  g++ cmake ninja-build qt6-base-dev libxlsxwriter-dev libminizip-dev fonts-liberation $office
 
+mkdir -p build
 cmake -S . -B build/run -G Ninja -DCMAKE_BUILD_TYPE=Release -DNORVANE_TESTS=OFF \
-  -DNORVANE_FOLDER="$PWD/build/norvane" >build-configure.log 2>&1 ||
-  { cat build-configure.log; exit 1; }
-rm -f build-configure.log
+  -DNORVANE_FOLDER="$PWD/build/norvane" >build/run.log 2>&1 || { cat build/run.log; exit 1; }
 cmake --build build/run
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then

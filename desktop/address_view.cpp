@@ -18,7 +18,7 @@ AddressView::AddressView(Desktop& desktop, Address& address) : FormView(desktop,
   Bind<CaptionBinder>(address.Label1, *heading);
   auto* exit = new QToolButton;
   exit->setAutoRaise(true);
-  exit->setText(QChar(0x2715));
+  exit->setText(QChar(0xD7));
   exit->setFocusPolicy(Qt::NoFocus);
   page->addWidget(exit, 0, 1, Qt::AlignRight);
   Bind<PictureBinder>(address.imgExit, *exit);

@@ -163,8 +163,10 @@ void PictureBinder::Show_Field() {
 
 ComboBinder::ComboBinder(FormView& view, ListField& field, QComboBox& combo)
     : Binder(view, field, combo), field_(field), combo_(combo) {
-  QObject::connect(&combo, &QComboBox::activated, &combo,
-                   [this](int index) { Play(UserAction::kChoose, index); });
+  QObject::connect(&combo, &QComboBox::activated, &combo, [this](int index) {
+    Binder::view().Field_Changed(field_, Attribute::kListIndex);
+    Play(UserAction::kChoose, index);
+  });
 }
 
 void ComboBinder::Show_Field() {
@@ -201,8 +203,10 @@ void SpinBinder::Show_Field() {}
 
 TabsBinder::TabsBinder(FormView& view, Tabs& field, QTabBar& bar)
     : Binder(view, field, bar), field_(field), bar_(bar) {
-  QObject::connect(&bar, &QTabBar::currentChanged, &bar,
-                   [this](int tab) { Play(UserAction::kPickTab, tab); });
+  QObject::connect(&bar, &QTabBar::currentChanged, &bar, [this](int tab) {
+    Binder::view().Field_Changed(field_, Attribute::kTab);
+    Play(UserAction::kPickTab, tab);
+  });
 }
 
 void TabsBinder::Show_Field() {

@@ -39,6 +39,8 @@ class Binder {
   void Update();
   /// The caption of a field that has one, as the user reads it.
   virtual QString Caption() const { return {}; }
+  /// The field goes, before its widget does.
+  virtual void Let_Go() {}
 
  protected:
   virtual void Show_Field() = 0;

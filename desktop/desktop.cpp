@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QThread>
 #include <QWindow>
 
 #include "calc/conversions.h"
@@ -100,10 +101,12 @@ void Desktop::Let_Events_Run() {
   const QDeadlineTimer patience(kPatience);
   const auto exposed = [this] {
     const QWidget* front = Front_Window();
-    return front == nullptr || !front->isVisible() || front->windowHandle()->isExposed();
+    return front == nullptr || !front->isVisible() || front->isMinimized() ||
+           front->windowHandle()->isExposed();
   };
   while (!exposed() && !patience.hasExpired()) {
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 10);
+    QCoreApplication::processEvents();
+    QThread::msleep(1);
   }
   QCoreApplication::processEvents();
 }
@@ -143,7 +146,7 @@ void Desktop::Show_Changes() {
 }
 
 int Desktop::Current_Charset() const {
-  const Module1& module1 = const_cast<Program&>(program_).State();
+  const Module1& module1 = program_.State();
   const auto slot = static_cast<std::size_t>(module1.Lang_Index);
   const auto& charset = module1.languages.Lang_Charset[slot];
   try {
@@ -158,7 +161,7 @@ QString Desktop::Text(const std::string& bytes) const {
 }
 
 QWidget* Desktop::Front_Window() const {
-  const Form* active = const_cast<Program&>(program_).State().desk.Active();
+  const Form* active = program_.State().desk.Active();
   return active == nullptr ? nullptr : View_Of(*active);
 }
 

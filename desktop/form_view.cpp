@@ -26,6 +26,7 @@ void FormView::Detach() {
   form_ = nullptr;
   changed_.clear();
   focused_ = nullptr;
+  for (const auto& binder : binders_) binder->Let_Go();
   if (modal_loop_ != nullptr) modal_loop_->quit();
   modal_loop_ = nullptr;
 }
@@ -99,8 +100,13 @@ void FormView::Form_Changed(FormAttribute attribute) {
 void FormView::Show_Changes() {
   if (form_ == nullptr) return;
   if (letters_outdated_) Choose_Letters_Anew();
-  for (Binder* binder : std::exchange(changed_, {})) binder->Update();
+  for (Binder* binder : std::exchange(changed_, {})) {
+    binder->Update();
+    // What shows or hides may hand on the focus, and with it an event that unloads the form.
+    if (form_ == nullptr) return;
+  }
   Arrange();
+  if (size_untold_) QTimer::singleShot(0, this, &FormView::Tell_Size);
   if (std::exchange(form_changed_, false)) Show_Window();
   if (form_ == nullptr) return;
   if (const Field* focused = std::exchange(focused_, nullptr)) {
@@ -172,14 +178,21 @@ void FormView::changeEvent(QEvent* event) {
 void FormView::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   // Later, since a window is also resized while the program's changes are being shown.
-  QTimer::singleShot(0, this, [this] {
-    if (form_ == nullptr || !form_->Shown()) return;
-    UserEvent resized{UserAction::kResize, *form_};
-    resized.width = To_Twips(width());
-    resized.height = To_Twips(height());
-    if (resized.width == form_->Place().width && resized.height == form_->Place().height) return;
-    desktop_.Play(resized);
-  });
+  size_untold_ = true;
+  QTimer::singleShot(0, this, &FormView::Tell_Size);
+}
+
+void FormView::Tell_Size() {
+  if (form_ == nullptr || !form_->Shown() || !size_untold_) return;
+  // Behind a dialog the program takes no events; it is told when the dialog has gone.
+  const Form* modal = desktop_.program().State().desk.Modal();
+  if (modal != nullptr && modal != form_) return;
+  size_untold_ = false;
+  UserEvent resized{UserAction::kResize, *form_};
+  resized.width = To_Twips(width());
+  resized.height = To_Twips(height());
+  if (resized.width == form_->Place().width && resized.height == form_->Place().height) return;
+  desktop_.Play(resized);
 }
 
 void FormView::mouseMoveEvent(QMouseEvent* event) {

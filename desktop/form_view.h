@@ -72,6 +72,7 @@ class FormView : public QWidget, public FormObserver {
   void Note_Change(Binder& binder);
   void Choose_Letters_Anew();
   void Show_Window();
+  void Tell_Size();
 
   Desktop& desktop_;
   Form* form_;
@@ -82,6 +83,7 @@ class FormView : public QWidget, public FormObserver {
   bool letters_outdated_ = false;
   Field* focused_ = nullptr;
   bool form_changed_ = true;
+  bool size_untold_ = false;
   bool brought_to_front_ = false;
   QEventLoop* modal_loop_ = nullptr;
 };

@@ -5,12 +5,11 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QStyle>
-#include <QTableView>
 #include <algorithm>
 #include <utility>
 
 #include "desktop/form_view.h"
-#include "desktop/table_events.h"
+#include "desktop/row_table.h"
 #include "desktop/twips.h"
 
 namespace norvane {
@@ -35,35 +34,35 @@ std::pair<int, int> Selected_Rows(const QTableView& table) {
 }  // namespace
 
 GridModel::GridModel(const Grid& grid, std::function<QString(const std::string&)> shown)
-    : grid_(grid), shown_(std::move(shown)) {}
+    : grid_(&grid), shown_(std::move(shown)) {}
 
 int GridModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : std::max(grid_.Rows() - 1, 0);
+  return parent.isValid() || grid_ == nullptr ? 0 : std::max(grid_->Rows() - 1, 0);
 }
 
 int GridModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : grid_.Cols();
+  return parent.isValid() || grid_ == nullptr ? 0 : grid_->Cols();
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
   // A line can have gone while its repaint was still to come.
-  if (index.row() + 1 >= grid_.Rows() || index.column() >= grid_.Cols()) return {};
+  if (index.row() >= rowCount() || index.column() >= columnCount()) return {};
   if (role == Qt::TextAlignmentRole) {
     return int(Qt::AlignVCenter |
                (index.column() > kLastWordColumn ? Qt::AlignRight : Qt::AlignLeft));
   }
   if (role != Qt::DisplayRole) return {};
-  return shown_(grid_.Cell(index.row() + 1, index.column()));
+  return shown_(grid_->Cell(index.row() + 1, index.column()));
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || grid_.Rows() == 0 || section >= grid_.Cols()) return {};
+  if (orientation != Qt::Horizontal || section >= columnCount() || grid_->Rows() == 0) return {};
   if (role == Qt::TextAlignmentRole) {
     const Qt::Alignment side = section > kLastWordColumn ? Qt::AlignRight : Qt::AlignLeft;
     return int(side | Qt::AlignVCenter) | int(Qt::TextWordWrap);
   }
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
-  return shown_(grid_.Cell(0, section));
+  return shown_(grid_->Cell(0, section));
 }
 
 void GridModel::Reset() {
@@ -71,7 +70,13 @@ void GridModel::Reset() {
   endResetModel();
 }
 
-GridBinder::GridBinder(FormView& view, Grid& field, QTableView& table)
+void GridModel::Let_Go() {
+  beginResetModel();
+  grid_ = nullptr;
+  endResetModel();
+}
+
+GridBinder::GridBinder(FormView& view, Grid& field, RowTable& table)
     : Binder(view, field, table),
       field_(field),
       table_(table),
@@ -86,9 +91,8 @@ GridBinder::GridBinder(FormView& view, Grid& field, QTableView& table)
   table.horizontalHeader()->setHighlightSections(false);
   table.setAlternatingRowColors(true);
   table.setWordWrap(false);
-  auto* events = new TableEvents(table);
-  QObject::connect(events, &TableEvents::Picked, &table, [this] { Pick(); });
-  QObject::connect(events, &TableEvents::Copy_Asked, &table, [this] { Copy(); });
+  QObject::connect(&table, &RowTable::Picked, &table, [this] { Pick(); });
+  QObject::connect(&table, &RowTable::Copy_Asked, &table, [this] { Copy(); });
 }
 
 void GridBinder::Show_Field() {

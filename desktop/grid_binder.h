@@ -5,9 +5,9 @@
 #include "desktop/binder.h"
 #include "totals/grid.h"
 
-class QTableView;
-
 namespace norvane {
+
+class RowTable;
 
 /// The cells of a grid as Qt's views read them; its caption row is their header.
 class GridModel : public QAbstractTableModel {
@@ -22,9 +22,11 @@ class GridModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   void Reset();
+  /// The grid goes; from here on there are no rows.
+  void Let_Go();
 
  private:
-  const Grid& grid_;
+  const Grid* grid_;
   std::function<QString(const std::string&)> shown_;
 };
 
@@ -32,7 +34,9 @@ class GridModel : public QAbstractTableModel {
 /// is the pick that the program hears of.
 class GridBinder : public Binder {
  public:
-  GridBinder(FormView& view, Grid& field, QTableView& table);
+  GridBinder(FormView& view, Grid& field, RowTable& table);
+
+  void Let_Go() override { model_.Let_Go(); }
 
  protected:
   void Show_Field() override;
@@ -43,7 +47,7 @@ class GridBinder : public Binder {
   void Copy() const;
 
   Grid& field_;
-  QTableView& table_;
+  RowTable& table_;
   GridModel model_;
   int columns_shown_ = 0;
 };

@@ -16,6 +16,25 @@ constexpr int kEntryHeight = 27;
 constexpr int kNameWidth = 104;
 constexpr int kShownEntries = 16;  // the others fall off the form
 
+/// The mark beside a language. It is drawn, since not every font has such a sign.
+class TickMark : public QWidget {
+ public:
+  QSize sizeHint() const override { return {kSize, kSize}; }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::WindowText), 1.8, Qt::SolidLine, Qt::RoundCap,
+                        Qt::RoundJoin));
+    painter.translate((width() - kSize) / 2.0, (height() - kSize) / 2.0);
+    painter.drawPolyline(QPolygonF{QPointF(2, 6.5), QPointF(5, 9.5), QPointF(10, 2.5)});
+  }
+
+ private:
+  static constexpr int kSize = 12;
+};
+
 }  // namespace
 
 LanguageView::LanguageView(Desktop& desktop, Lang& lang) : FormView(desktop, lang) {
@@ -28,7 +47,7 @@ LanguageView::LanguageView(Desktop& desktop, Lang& lang) : FormView(desktop, lan
   Bind<CaptionBinder>(lang.Label1, *heading);
   auto* exit = new QToolButton;
   exit->setAutoRaise(true);
-  exit->setText(QChar(0x2715));
+  exit->setText(QChar(0xD7));
   exit->setFocusPolicy(Qt::NoFocus);
   page->addWidget(exit, 0, 1, Qt::AlignRight);
   Bind<PictureBinder>(lang.imgExit, *exit);
@@ -48,7 +67,7 @@ QWidget* LanguageView::Make_Entry(Lang& lang, int index) {
   entry->setFixedHeight(kEntryHeight);
   auto* row = new QHBoxLayout(entry);
   row->setContentsMargins(0, 0, 0, 0);
-  auto* mark = new QLabel(QChar(0x2713));
+  auto* mark = new TickMark;
   QSizePolicy kept = mark->sizePolicy();
   kept.setRetainSizeWhenHidden(true);
   mark->setSizePolicy(kept);

@@ -10,7 +10,6 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(norvane::kTitle);
   QApplication::setDesktopFileName("norvane");
-  QApplication::setWindowIcon(norvane::App_Icon());
   norvane::Use_Own_Fonts_At_Need(QCoreApplication::applicationDirPath());
   // Where the font of most languages is missing, one with the same widths stands for it.
   QFont::insertSubstitutions("Arial", {"Liberation Sans", "Arimo", "Nimbus Sans", "Helvetica"});
@@ -18,5 +17,7 @@ int main(int argc, char** argv) {
   norvane::Desktop desktop(QCoreApplication::applicationDirPath().toStdString());
   desktop.Start();
   if (desktop.program().Ended()) return desktop.program().Failed() ? 3 : 0;
+  // Drawn when the splash is on the screen already: no window needs it before.
+  QApplication::setWindowIcon(norvane::App_Icon());
   return QApplication::exec();
 }

@@ -39,12 +39,12 @@ SettingsView::SettingsView(Desktop& desktop, Settings& settings)
   grid->addWidget(lambda, 3, 0, 1, 2, Qt::AlignLeft);
   Bind<TextBinder>(settings.Text1, *lambda);
 
-  for (CaptionField* field : {&settings.Label2, &settings.Label1(0)}) {
-    auto* label = new QLabel;
-    grid->addWidget(label, field == &settings.Label2 ? 4 : 5, 0, 1,
-                    field == &settings.Label2 ? 3 : 1);
-    Bind<CaptionBinder>(*field, *label);
-  }
+  auto* question = new QLabel;
+  grid->addWidget(question, 4, 0, 1, 3);
+  Bind<CaptionBinder>(settings.Label2, *question);
+  auto* heading = new QLabel;
+  grid->addWidget(heading, 5, 0);
+  Bind<CaptionBinder>(settings.Label1(0), *heading);
   auto* alpha = new NumberEdit;
   grid->addWidget(alpha, 5, 1);
   Bind<TextBinder>(settings.Text3, *alpha);
@@ -55,6 +55,8 @@ SettingsView::SettingsView(Desktop& desktop, Settings& settings)
   buttons->addStretch();
   for (Button* field : {&settings.Command1, &settings.Command2}) {
     auto* button = new QPushButton;
+    // Enter presses the button that has the focus; elsewhere it is OK.
+    button->setAutoDefault(true);
     buttons->addWidget(button);
     Bind<ButtonBinder>(*field, *button);
   }

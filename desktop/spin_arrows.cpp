@@ -28,13 +28,14 @@ SpinArrows::SpinArrows(QWidget* parent) : QWidget(parent) {
     arrow->setFixedSize(20, 14);
     connect(arrow, &QToolButton::clicked, this, [this, direction] { emit Stepped(direction); });
     column->addWidget(arrow);
+    (direction > 0 ? up_ : down_) = arrow;
   }
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 void SpinArrows::Name_After(const QString& field) {
-  Tell(*findChild<QWidget*>("up"), field + " +");
-  Tell(*findChild<QWidget*>("down"), field + " \u2212");
+  Tell(*up_, field + " +");
+  Tell(*down_, field + " \u2212");
 }
 
 }  // namespace norvane

@@ -18,6 +18,10 @@ class SpinArrows : public QWidget {
  signals:
   /// One step up (1) or down (-1).
   void Stepped(int direction);
+
+ private:
+  QWidget* up_ = nullptr;
+  QWidget* down_ = nullptr;
 };
 
 }  // namespace norvane

@@ -2,11 +2,11 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QTableView>
 #include <QVBoxLayout>
 
 #include "desktop/accessible.h"
 #include "desktop/grid_binder.h"
+#include "desktop/row_table.h"
 #include "desktop/tool_button.h"
 
 namespace norvane {
@@ -29,7 +29,7 @@ TotalView::TotalView(Desktop& desktop, Total& total) : FormView(desktop, total) 
   tools->addStretch();
   column->addLayout(tools);
   Bind<ButtonBinder>(total.Toolbar1, *to_excel);
-  auto* table = new QTableView;
+  auto* table = new RowTable;
   column->addWidget(table, 1);
   Bind<GridBinder>(total.grdResult, *table);
   auto* strip = new QWidget;

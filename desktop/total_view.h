@@ -3,8 +3,6 @@
 #include "desktop/form_view.h"
 #include "totals/total_form.h"
 
-class QTableView;
-
 namespace norvane {
 
 class GridModel;

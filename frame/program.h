@@ -35,6 +35,7 @@ class Program {
   bool Failed() const { return failed_; }
 
   Module1& State() { return module1_; }
+  const Module1& State() const { return module1_; }
 
  private:
   Module1 module1_;

@@ -52,12 +52,32 @@ TEST_F(SettingsDialog, Each_Of_Its_Buttons_Brings_Its_Tab_To_The_Front) {
   With_Dialog(Screen().cmdToolBar3(0), [&] { look(2); });
 }
 
+TEST_F(SettingsDialog, A_Size_That_The_Main_Screen_Gets_Meanwhile_Is_Told_Afterwards) {
+  const QSize size = Main_View().size() + QSize(60, 30);
+  With_Dialog(Screen().cmdToolBar5(0), [&] {
+    Main_View().resize(size);
+    Settle();
+    Press(Qt::Key_Escape);
+  });
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Screen().Place().width == size.width() * 15; }, 1000));
+}
+
 TEST_F(SettingsDialog, A_Number_Can_Be_Typed_As_Soon_As_It_Is_Open) {
   With_Dialog(Screen().cmdToolBar3(0), [] {
     Type("20");
     Press(Qt::Key_Return);
   });
   EXPECT_EQ(Shown(Screen().Label4(1)), "20.0");
+}
+
+TEST_F(SettingsDialog, Enter_On_Cancel_Cancels) {
+  With_Dialog(Screen().cmdToolBar3(0), [this] {
+    Type("20");
+    Widget(Dialog().Command2).setFocus();
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !View(Dialog()).isVisible(); }, 1000));
+  });
+  EXPECT_EQ(Shown(Screen().Label4(1)), "12.5");
 }
 
 TEST_F(SettingsDialog, It_Stands_Over_The_Main_Screen) {

@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QElapsedTimer>
@@ -5,6 +6,7 @@
 #include <QTableView>
 #include <QTest>
 #include <QWindow>
+#include <algorithm>
 
 #include "window_test.h"
 
@@ -103,6 +105,50 @@ TEST_F(Totals, A_Drag_Over_Rows_Asks_And_Yes_Deletes_Them) {
             (SeenMessage{"Norvane", "Delete 3 Records", QMessageBox::Question}));
   EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "20"}));
   Expect_Same_As_Model(View(List()));
+}
+
+TEST_F(Totals, A_Click_That_Waits_Behind_Another_Asks_When_That_Is_Answered) {
+  Add_Lines({"6", "9", "13"});
+  Open();
+  int most_at_once = 0;
+  for (int answer : {QMessageBox::Yes, QMessageBox::No}) {
+    watchdog.Expect([&, answer](QWidget& window) {
+      QTest::qWait(100);
+      int open = 0;
+      for (QWidget* shown : QApplication::topLevelWidgets()) {
+        if (qobject_cast<QMessageBox*>(shown) != nullptr && shown->isVisible()) ++open;
+      }
+      most_at_once = std::max(most_at_once, open);
+      auto& box = dynamic_cast<QMessageBox&>(window);
+      Click(*box.button(static_cast<QMessageBox::StandardButton>(answer)));
+    });
+  }
+  // Both clicks are there before the event loop runs, as when the program was busy meanwhile.
+  QWindow* window = View(List()).windowHandle();
+  const QPoint place = Place_Of(1);
+  const QPoint on_screen = View(List()).mapToGlobal(place);
+  for (int time : {1, 2}) {
+    qt_handleMouseEvent(window, place, on_screen, Qt::LeftButton, Qt::LeftButton,
+                        QEvent::MouseButtonPress, Qt::NoModifier, time);
+    qt_handleMouseEvent(window, place, on_screen, Qt::NoButton, Qt::LeftButton,
+                        QEvent::MouseButtonRelease, Qt::NoModifier, time);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([&] { return watchdog.Content(); }, 3000));
+  EXPECT_EQ(most_at_once, 1);
+  EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "13"}));
+}
+
+TEST_F(Totals, A_Table_Whose_Lines_Have_Gone_Is_Empty) {
+  Add_Lines({"6", "9"});
+  Open();
+  QTableView& table = Table();
+  EXPECT_EQ(table.model()->rowCount(), 2);
+  // The window stays until the event loop runs, as when it was in the middle of an event.
+  View(List()).close();
+  ASSERT_FALSE(State().forms.total.Loaded());
+  EXPECT_EQ(table.model()->rowCount(), 0);
+  EXPECT_EQ(table.model()->columnCount(), 0);
+  table.setFocus();
 }
 
 TEST_F(Totals, A_Drag_Upwards_Takes_The_Same_Rows) {

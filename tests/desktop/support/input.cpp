@@ -93,9 +93,9 @@ void Hover(QWidget& window, const QPoint& at) {
   QCursor::setPos(to + QPoint(1, 0));
   const ArrivalOfMouse arrival(*window.windowHandle(), to);
   QCursor::setPos(to);
-  constexpr int kLongest = 500;  // milliseconds
-  const bool seen = QTest::qWaitFor([&] { return arrival.Seen(); }, kLongest);
-  EXPECT_TRUE(seen || Waits_For_Dialog(window)) << "the mouse doesn't arrive";
+  constexpr int kLongest = 5000;  // milliseconds
+  EXPECT_TRUE(QTest::qWaitFor([&] { return arrival.Seen() || Waits_For_Dialog(window); }, kLongest))
+      << "the mouse doesn't arrive";
 }
 
 void Press(int key, Qt::KeyboardModifiers modifiers) {
