@@ -15,14 +15,13 @@ constexpr int kLinesBelowCaptions = 2;
 
 /// Carries out one step; a failing one is passed over without a word.
 template <class Step>
-bool Try(const Step& step) {
+void Try(const Step& step) {
   try {
     step();
-    return true;
   } catch (const SpreadsheetFailure&) {
-    return false;
+    // The spreadsheet program can't do it.
   } catch (const RuntimeError&) {
-    return false;
+    // A value isn't what the step needs.
   }
 }
 

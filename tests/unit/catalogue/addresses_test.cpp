@@ -35,6 +35,13 @@ TEST_F(AddressFiles, LeaveOutAFieldNumberWithoutAText) {
   EXPECT_EQ(Field_Of(1, 2), "");
 }
 
+TEST_F(AddressFiles, HaveTheirNumberInThreeLettersOfTheirNames) {
+  program_.folder.Write("Address0015.txt", "1,Firm");
+  Load();
+  EXPECT_EQ(Field_Of(1, 1), "Firm");
+  EXPECT_EQ(Field_Of(15, 1), "");
+}
+
 TEST_F(AddressFiles, EndAtTheFirstThatCannotBeOpened) {
   Write(1, "1,first");
   std::filesystem::create_symlink("nowhere", program_.folder / "Address2.txt");

@@ -139,6 +139,14 @@ TEST_F(LanguageFiles, TakeTheSlotsInTheOrderOfTheirLowerCaseNames) {
   EXPECT_EQ(Tables().Lang_Code[5], std::nullopt);
 }
 
+TEST_F(LanguageFiles, AreCountedFromEnglishOn) {
+  program_.folder.Write("language.lfr", "a,b,0\r\n18,texte");
+  program_.State().Lang_Index = 5;
+  Find_Languages(program_.State());
+  EXPECT_EQ(program_.State().Lang_Index, 1);
+  EXPECT_EQ(Tables().Lang_Text[1][18], "texte");
+}
+
 TEST_F(LanguageFiles, ThatCannotBeOpenedAreToldAndPassedOver) {
   ASSERT_EQ(mkfifo((program_.folder / "language.lde").c_str(), 0600), 0);
   program_.folder.Write("language.lfr", "a,b,0\r\n18,texte");
@@ -182,6 +190,12 @@ TEST_F(ALanguageChange, AsksWhereNoListOfCalculationsExists) {
   program_.State().Calc_List.clear();
   Select(0);
   EXPECT_EQ(program_.Printed(), kQuestion);
+}
+
+TEST_F(ALanguageChange, MayBeToTheLastThatTheDialogShows) {
+  Tables().Lang_Code[19] = "zz";
+  Select(19);
+  EXPECT_EQ(program_.State().Lang_Index, 19);
 }
 
 TEST_F(ALanguageChange, ToALanguageThatTheDialogDoesNotShowIsWrittenAlone) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <utility>
@@ -93,6 +94,9 @@ TEST_F(AUserEvent, OnAListHasToNameOneOfItsItems) {
   const int last = static_cast<int>(warmt_.Combo1.Items().size()) - 1;
   EXPECT_EQ(program_.Act(UserAction::kChoose, warmt_.Combo1, last), kCarriedOut);
   EXPECT_EQ(warmt_.Combo1.ListIndex(), last);
+  EXPECT_EQ(program_.Act(UserAction::kChoose, warmt_.Combo1, 0), kCarriedOut);
+  EXPECT_EQ(warmt_.Combo1.ListIndex(), 0);
+  EXPECT_EQ(program_.Act(UserAction::kChoose, warmt_.Combo1, last), kCarriedOut);
   EXPECT_TRUE(Refused(program_.Act(UserAction::kChoose, warmt_.Combo1, last + 1)));
   EXPECT_TRUE(Refused(program_.Act(UserAction::kChoose, warmt_.Combo1, -1)));
   EXPECT_EQ(warmt_.Combo1.ListIndex(), last);
@@ -160,6 +164,11 @@ TEST_F(AUserEvent, AfterTheEndIsRefused) {
   ASSERT_EQ(program_.Act(UserAction::kCloseBox, warmt_), kCarriedOut);
   ASSERT_TRUE(program_.program.Ended());
   EXPECT_FALSE(program_.program.Failed());
+  for (const FormReference* unloaded : std::initializer_list<FormReference*>{
+           &program_.State().forms.about, &program_.State().forms.warmt,
+           &program_.State().forms.total}) {
+    EXPECT_FALSE(unloaded->Loaded());
+  }
   About& about = *program_.State().forms.about;
   EXPECT_TRUE(Refused(program_.Act(UserAction::kActivate, about)));
 }

@@ -29,6 +29,7 @@ class FirstCalculation : public testing::Test {
 
 TEST_F(FirstCalculation, FillsTheFieldsOfHeatLossThatAreZero) {
   for (TextField& field : warmt_.txtT) field.Set_Text("0");
+  warmt_.Text2(3).Set_Caption("");
   warmt_.Text2(3).Set_Visible(false);
   warmt_.Label8(3).Set_Visible(false);
   Of_Heat_Loss();
@@ -62,9 +63,24 @@ TEST_F(FirstCalculation, KeepsTheFieldsOfHeatLossButTheThickness) {
   EXPECT_EQ(warmt_.Text2(3).Caption(), "1/2");
 }
 
+TEST_F(FirstCalculation, OfHeatLossTakesTheMarksOfCondensationOffItsFields) {
+  warmt_.txtT(1).Set_Locked(true);
+  warmt_.txtT(1).Set_BackColor(kGrey);
+  warmt_.txtT(2).Set_BackColor(kGrey);
+  warmt_.txtT(2).Set_Bold(true);
+  warmt_.Label1(2).Set_Bold(true);
+  Of_Heat_Loss();
+  EXPECT_FALSE(warmt_.txtT(1).Locked());
+  EXPECT_EQ(warmt_.txtT(1).BackColor(), kSystemWindow);
+  EXPECT_EQ(warmt_.txtT(2).BackColor(), kSystemWindow);
+  EXPECT_FALSE(warmt_.txtT(2).Font().bold);
+  EXPECT_FALSE(warmt_.Label1(2).Font().bold);
+}
+
 TEST_F(FirstCalculation, FillsTheFieldsOfCondensationThatAreZeroOrEmpty) {
   for (TextField& field : warmt_.txtC) field.Set_Text("0");
   warmt_.txtC(4).Set_Text("");
+  warmt_.Text2(3).Set_Caption("");
   warmt_.Text2(3).Set_Visible(false);
   warmt_.Label8(3).Set_Visible(false);
   warmt_.Idx_A1 = 0;

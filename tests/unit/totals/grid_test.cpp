@@ -75,6 +75,17 @@ TEST_F(AGrid, TakesASelectionThatNobodyWaitsFor) {
   EXPECT_EQ(grid_.RowSel(), 2);
 }
 
+TEST_F(AGrid, TellsOfEachChange) {
+  std::vector<Attribute> told;
+  const Watch watch(form_, [&](const Field&, Attribute attribute) { told.push_back(attribute); });
+  grid_.Add_Item("\td");
+  grid_.Set_Row(2);
+  grid_.Pick_Rows(1, 1);
+  grid_.Start({""}, {300});
+  using enum Attribute;
+  EXPECT_EQ(told, (std::vector<Attribute>{kCells, kRow, kRow, kCells}));
+}
+
 TEST_F(AGrid, BeginsAnewWithoutASelection) {
   grid_.Set_Row(2);
   grid_.Start({"x"}, {300});

@@ -85,6 +85,17 @@ TEST_F(TheExport, OpensTheWorkbookUnderALanguageWithoutACharacterSet) {
   EXPECT_EQ(Exported("Open"), "spreadsheet Open total.xls\n");
 }
 
+TEST_F(TheExport, TakesAWorkbookByTheEndOfItsNameAlone) {
+  program_.folder.Write("total.txt", "");
+  Screen().Xls_Export("total.txt");
+  EXPECT_EQ(program_.Printed(),
+            "spreadsheet GetObject\nspreadsheet CreateObject\n"
+            "spreadsheet Application.Visible true\n"
+            "message No Excel connection | Excel 97/2000 not found | exclamation | ok -> ok\n");
+  Screen().Xls_Export("TOTAL.XLS");
+  EXPECT_EQ(program_.Printed().find("message"), std::string::npos);
+}
+
 TEST_F(TheExport, WritesNoLinesOfAListThatDoesNotExist) {
   program_.State().Calc_List.clear();
   EXPECT_EQ(Exported("Value A3"), "");
