@@ -52,7 +52,9 @@ class DesktopTest : public testing::Test {
 
   /// What a widget of the main screen shows.
   std::string Shown(const TextField& field) { return Edit(field).text().toStdString(); }
-  std::string Shown(const CaptionField& field) { return As_Read(Label(field).text()).toStdString(); }
+  std::string Shown(const CaptionField& field) {
+    return As_Read(Label(field).text()).toStdString();
+  }
 
   void Wait_Until_Active(const Form& form);
 
