@@ -43,7 +43,6 @@ void Decimal::Read_Scientific(std::string_view text) {
   digits_.erase(digits_.find_last_not_of('0') + 1);
   if (digits_.empty()) {
     negative_ = false;
-    exponent_ = 0;
     return;
   }
   const bool small = text[e + 1] == '-';

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QScopedValueRollback>
+#include <QWindow>
 
 #include "frame/version.h"
 
@@ -26,7 +27,9 @@ void Busy::Progress(int done, int total) {
     return;
   }
   if (!progress_) {
-    progress_ = std::make_unique<QProgressDialog>(QApplication::activeWindow());
+    // No window's child: one that closes meanwhile would take it along.
+    progress_ = std::make_unique<QProgressDialog>();
+    Lay_Over(QApplication::activeWindow());
     progress_->setWindowTitle(kTitle);
     progress_->setCancelButton(nullptr);
     progress_->setMinimumDuration(0);
@@ -37,6 +40,13 @@ void Busy::Progress(int done, int total) {
   const QScopedValueRollback<bool> painting(painting_, true);
   progress_->setValue(done);
   Wait_A_Moment();
+}
+
+void Busy::Lay_Over(const QWidget* window) {
+  if (window == nullptr) return;
+  progress_->winId();
+  progress_->windowHandle()->setTransientParent(window->windowHandle());
+  progress_->move(window->geometry().center() - progress_->rect().center());
 }
 
 void Busy::End() {

@@ -20,6 +20,8 @@ class Busy : public SpreadsheetWaiting {
   void End();
 
  private:
+  void Lay_Over(const QWidget* window);
+
   bool pointer_shown_ = false;
   bool painting_ = false;  ///< events are let in
   std::unique_ptr<QProgressDialog> progress_;

@@ -2,10 +2,13 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QPointer>
 #include <QProgressDialog>
 #include <QTest>
+#include <memory>
 #include <utility>
 
+#include "desktop/busy.h"
 #include "window_test.h"
 
 namespace norvane {
@@ -117,6 +120,21 @@ TEST_F(Waiting, A_Window_That_Is_Resized_Meanwhile_Ends_No_Waiting) {
   EXPECT_EQ(seen.progress, "10000 / 30000");
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(Waiting, A_Window_That_Closes_Meanwhile_Takes_Nothing_Along) {
+  auto window = std::make_unique<QWidget>();
+  window->show();
+  ASSERT_TRUE(Comes_To_Front(*window));
+  Busy busy;
+  busy.Progress(1, 30000);
+  const QPointer<QWidget> dialog = QApplication::activeModalWidget();
+  ASSERT_NE(dialog, nullptr);
+  window.reset();
+  EXPECT_NE(dialog, nullptr);
+  busy.Progress(2, 30000);
+  busy.End();
+  EXPECT_EQ(dialog, nullptr);
 }
 
 TEST_F(Waiting, A_Short_List_Shows_No_Progress) {

@@ -90,6 +90,7 @@ TEST(FormatWithMask, FollowsTheLocale) {
 
 TEST(FormatWithMask, ForcesTheDigitsThatTheMaskHasZerosFor) {
   EXPECT_EQ(Format(0.0, "##0.0", kPoint), "0.0");
+  EXPECT_EQ(Format(0.0, "###.0", kPoint), ".0");
   EXPECT_EQ(Format(0.5, "##0.0", kPoint), "0.5");
   EXPECT_EQ(Format(5.0, "000", kPoint), "005");
 }

@@ -80,6 +80,7 @@ TEST_F(TheDesign, GivesTheConversionsAGroundAndTheFootABar) {
 TEST_F(TheDesign, HidesTheTooltipAndTheButtonOfOneLanguage) {
   EXPECT_FALSE(warmt_.picToolTip.Visible());
   EXPECT_EQ(warmt_.LblTooltip.panel, &warmt_.picToolTip);
+  EXPECT_EQ(warmt_.LblTooltip.Place(), (Place{0, 0, 3000, 255}));
   for (Button& button : warmt_.cmdToolBar4) EXPECT_EQ(button.Visible(), button.Index() != 2);
 }
 

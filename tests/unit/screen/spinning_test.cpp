@@ -134,6 +134,12 @@ TEST_F(CalculationsOfAClick, OnTheLengthAreThreeAtItsEnds) {
   EXPECT_EQ(warmt_.txtmtrs.Text(), "10000");
 }
 
+TEST_F(CalculationsOfAClick, OnAKindAreOne) {
+  for (const int kind : {1, 2, 3, 0}) {
+    EXPECT_EQ(Calculations([&] { program_.Click(warmt_.cmdToolBar1(kind)); }), 1) << kind;
+  }
+}
+
 TEST_F(CalculationsOfAClick, AreOneWithoutAStep) {
   program_.Set(warmt_.txtT(1), "20");
   program_.Set(warmt_.txtT(0), "115");

@@ -48,6 +48,7 @@ TEST_F(TheTotalScreen, MakesTheLabelOfTheSumsAsWideAsItsText) {
   Open();
   EXPECT_EQ(Screen().Sums_Text.substr(0, 12), "t97   t89 = ");
   EXPECT_EQ(Screen().Label1.Caption(), Screen().Sums_Text);
+  EXPECT_EQ(Screen().Label1.panel, &Screen().picTotal);
   EXPECT_EQ(Screen().Label1.Place().width, 90.0 * static_cast<double>(Screen().Sums_Text.size()));
 }
 
