@@ -102,8 +102,9 @@ bool Soak::Click_Ends(Desktop& desktop, const QWidget& widget) {
 bool Soak::Print_End() const {
   constexpr int kFullRun = 500'000;
   constexpr double kFlat = 0.01;
-  // A short run is over before all languages, letters and sizes of windows have been seen.
-  constexpr double kStillFilling = 1;
+  // A short run is over before all languages, letters and sizes of windows have been seen: it tells
+  // of crashes and of handles, and not of memory.
+  constexpr double kStillFilling = 9;
   const bool flat = samples_.Print_Flat(events_ >= kFullRun ? kFlat : kStillFilling);
   std::printf("\n%d events in %.0f s; %d programs, %d of them ended by a runtime error\n", played_,
               static_cast<double>(clock_.elapsed()) / 1000, programs_, failed_);
