@@ -17,7 +17,7 @@ class Chance {
 
   template <class List>
   decltype(auto) One_Of(List& list) {
-    return list[static_cast<std::size_t>(Below(static_cast<int>(std::size(list))))];
+    return *(std::begin(list) + Below(static_cast<int>(std::size(list))));
   }
 
  private:
