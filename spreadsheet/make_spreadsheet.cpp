@@ -33,6 +33,13 @@ Candidate LibreOffice(const std::filesystem::path& program_folder, SpreadsheetWa
 }
 #endif
 
+#ifdef NORVANE_WITH_XLSX
+Candidate Workbook_File(const std::filesystem::path& program_folder, SpreadsheetWaiting& waiting) {
+  auto file = std::make_unique<XlsxSpreadsheet>(program_folder, waiting, Open_On_Desktop);
+  return {[plain = file.get()] { return plain->Is_There(); }, std::move(file)};
+}
+#endif
+
 }  // namespace
 
 std::unique_ptr<Spreadsheet> Make_Spreadsheet(
@@ -47,8 +54,7 @@ std::unique_ptr<Spreadsheet> Make_Spreadsheet(
       {ExcelSpreadsheet::Is_Installed, std::make_unique<ExcelSpreadsheet>(program_folder)});
 #endif
 #ifdef NORVANE_WITH_XLSX
-  candidates.push_back({[] { return true; }, std::make_unique<XlsxSpreadsheet>(
-                                                 program_folder, waiting, Open_On_Desktop)});
+  candidates.push_back(Workbook_File(program_folder, waiting));
 #endif
   return std::make_unique<ChosenSpreadsheet>(std::move(candidates));
 }

@@ -1,8 +1,8 @@
 #include "spreadsheet/office_plug_in.h"
 
-#include <dlfcn.h>
 #include <unistd.h>
 
+#include "spreadsheet/plug_in.h"
 #include "spreadsheet/started_program.h"
 
 namespace norvane {
@@ -13,10 +13,7 @@ OfficePlugIn::OfficePlugIn(const fs::path& folder) : path_(folder / "norvane_off
 
 bool OfficePlugIn::Load() {
   if (make_office_ != nullptr) return true;
-  // Never unloaded: the office's libraries keep threads and static objects of their own.
-  void* library = dlopen(path_.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
-  if (library == nullptr) return false;
-  make_office_ = reinterpret_cast<MakeOffice*>(dlsym(library, kMakeOffice));
+  make_office_ = reinterpret_cast<MakeOffice*>(Function_Of_Plug_In(path_, kMakeOffice));
   return make_office_ != nullptr;
 }
 

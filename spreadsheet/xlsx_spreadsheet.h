@@ -2,27 +2,31 @@
 
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "host/disk_files.h"
 #include "platform/spreadsheet.h"
-#include "spreadsheet/cell_range.h"
 #include "spreadsheet/waiting.h"
+#include "spreadsheet/workbook.h"
 
 namespace norvane {
 
 /// What stands for a spreadsheet program where none is installed: the cells are gathered and, at
 /// the release, written to a new workbook in the user's temporary folder, which is handed to
 /// `open`. The file that is asked to be opened has to be there, but its formats aren't taken over.
+/// What writes the workbook is a plug-in beside the program, loaded at the first use: it and the
+/// libraries that it brings along would cost every start more than the program's own code.
 class XlsxSpreadsheet : public Spreadsheet {
  public:
   using OpenFile = std::function<void(const std::filesystem::path& file)>;
 
   XlsxSpreadsheet(const std::filesystem::path& program_folder, SpreadsheetWaiting& waiting,
                   OpenFile open);
+
+  /// Whether the plug-in can be loaded.
+  bool Is_There() const { return Writer() != nullptr; }
 
   /// There is no program that could be running already.
   bool GetObject() override { return false; }
@@ -38,20 +42,17 @@ class XlsxSpreadsheet : public Spreadsheet {
   void Release() override;
 
  private:
-  using Row = std::vector<std::optional<CellValue>>;
-
-  /// What is to be written. Rows and columns from 0, texts in UTF-8.
   struct Book {
     std::string title;
     int charset = 0;
-    std::map<int, Row> rows;
-    std::vector<CellRange> bold;
+    Workbook cells;
   };
-  class Writer;
 
+  WriteWorkbook* Writer() const;
   Book& Need_Book();
 
   DiskFiles files_;
+  std::filesystem::path plug_in_;
   SpreadsheetWaiting& waiting_;
   OpenFile open_;
   std::optional<Book> book_;

@@ -64,7 +64,8 @@ OfficeProgram::OfficeProgram(PlugIn plug_in, const MakeSpreadsheetHere& make,
   fs::copy(TEMPLATES "/total.xls", folder / "total.xls");
   fs::create_directory(folder / "xls");
   fs::copy(TEMPLATES "/xls/Empty.xls", folder / "xls/Empty.xls");
-  if (plug_in == PlugIn::kThere) fs::create_symlink(PLUG_IN, folder / "norvane_office.so");
+  if (plug_in == PlugIn::kThere) fs::create_symlink(OFFICE_PLUG_IN, folder / "norvane_office.so");
+  fs::create_symlink(WORKBOOK_PLUG_IN, folder / "norvane_workbook.so");
   platform_ = std::make_unique<OfficePlatform>(folder.Path(), '.', out_);
   platform_->spreadsheet_ = make ? make(folder.Path()) : Make_Spreadsheet(folder.Path(), waiting);
   program_ = std::make_unique<Program>(*platform_);
