@@ -12,6 +12,7 @@
 #include "desktop/form_view.h"
 #include "desktop/letters.h"
 #include "desktop/number_edit.h"
+#include "desktop/number_label.h"
 #include "desktop/spin_arrows.h"
 #include "host/code_page.h"
 
@@ -109,12 +110,19 @@ void CaptionBinder::Show_Field() {
   Show_Font();
   // Only the heading of another widget can have a letter; elsewhere "&" is an ordinary sign.
   const bool heading = label_.buddy() != nullptr;
-  label_.setText(heading ? With_Letter(Caption(), view().Letter_Of(field_)) : Caption());
+  Show_Caption(heading ? With_Letter(Caption(), view().Letter_Of(field_)) : Caption());
 }
+
+void CaptionBinder::Show_Caption(const QString& caption) { label_.setText(caption); }
 
 bool CaptionBinder::Has_Content() const {
   return field_.BackStyle() == BackStyle::kOpaque || !field_.Caption().empty();
 }
+
+NumberBinder::NumberBinder(FormView& view, CaptionField& field, NumberLabel& label)
+    : CaptionBinder(view, field, label), label_(label) {}
+
+void NumberBinder::Show_Caption(const QString& caption) { label_.Show_Number(caption); }
 
 CaptionButtonBinder::CaptionButtonBinder(FormView& view, CaptionField& field,
                                          QAbstractButton& button)

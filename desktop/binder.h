@@ -19,6 +19,7 @@ namespace norvane {
 
 class FormView;
 class NumberEdit;
+class NumberLabel;
 class SpinArrows;
 
 /// Keeps the widget of one field up to date, and tells the program what the user does with it.
@@ -83,10 +84,23 @@ class CaptionBinder : public Binder {
  protected:
   void Show_Field() override;
   bool Has_Content() const override;
+  virtual void Show_Caption(const QString& caption);
 
  private:
   CaptionField& field_;
   QLabel& label_;
+};
+
+/// A caption field that holds a computed number.
+class NumberBinder : public CaptionBinder {
+ public:
+  NumberBinder(FormView& view, CaptionField& field, NumberLabel& label);
+
+ protected:
+  void Show_Caption(const QString& caption) override;
+
+ private:
+  NumberLabel& label_;
 };
 
 /// A caption field that the user clicks, as a button.

@@ -1,5 +1,6 @@
 #include "desktop/card.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPalette>
 
@@ -31,9 +32,14 @@ Card::Card(QWidget* parent) : QFrame(parent) {
   setContentsMargins(4, 2, 4, 2);
 }
 
-void Card::paintEvent(QPaintEvent*) {
-  constexpr qreal kRadius = 6;
+void Card::paintEvent(QPaintEvent* event) {
+  constexpr int kRadius = 6;
   QPainter painter(this);
+  // What changes while the user types lies inside, where the rounded outline needn't be drawn.
+  if (rect().adjusted(kRadius, 1, -kRadius, -1).contains(event->rect())) {
+    painter.fillRect(event->rect(), Ground(palette()));
+    return;
+  }
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Between(palette(), kLinePart));
   painter.setBrush(Ground(palette()));

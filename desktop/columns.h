@@ -19,12 +19,14 @@ enum Column {
 constexpr int kRowHeight = 27;  // pixels
 constexpr int kMargin = 14;     // around the cards of the main screen
 
+/// The columns' least widths. The heading has room for texts that are 60 % longer than the English
+/// ones.
+constexpr int kColumnWidth[] = {20, 266, 92, 22, 70, 66, 48};
+
 /// Gives a grid these columns. They stand still when rows come and go.
 inline void Lay_Out_Columns(QGridLayout& grid) {
-  // The heading has room for texts that are 60 % longer than the English ones.
-  constexpr int kWidths[] = {20, 266, 92, 22, 70, 66, 48};
   for (int column = 0; column <= kSecondUnitColumn; ++column) {
-    grid.setColumnMinimumWidth(column, kWidths[column]);
+    grid.setColumnMinimumWidth(column, kColumnWidth[column]);
   }
   grid.setColumnStretch(kSecondUnitColumn, 1);
   grid.setHorizontalSpacing(6);

@@ -7,6 +7,7 @@
 #include "desktop/desktop.h"
 #include "desktop/form_view.h"
 #include "desktop/number_edit.h"
+#include "desktop/number_label.h"
 #include "desktop/spin_arrows.h"
 #include "screen/warmt.h"
 
@@ -60,11 +61,8 @@ void InputCard::Add_Row(QGridLayout& grid, int row, int index) {
 }
 
 void InputCard::Add_Conversion(QGridLayout& grid, int row, int index) {
-  auto* conversion = new QLabel;
-  conversion->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  conversion->setMargin(4);
-  grid.addWidget(conversion, row, kSecondNumberColumn);
-  view_.Bind<CaptionBinder>(warmt_.Text2(index), *conversion);
+  auto* conversion = new NumberLabel(grid, row, kSecondNumberColumn);
+  view_.Bind<NumberBinder>(warmt_.Text2(index), *conversion);
   auto* unit = new QLabel;
   grid.addWidget(unit, row, kSecondUnitColumn);
   view_.Bind<CaptionBinder>(warmt_.Label8(index), *unit);

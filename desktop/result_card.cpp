@@ -10,6 +10,7 @@
 #include "desktop/colours.h"
 #include "desktop/columns.h"
 #include "desktop/form_view.h"
+#include "desktop/number_label.h"
 #include "screen/warmt.h"
 
 namespace norvane {
@@ -47,19 +48,20 @@ QLabel* ResultCard::Add_Label(QGridLayout& grid, int place, int column, CaptionF
   return label;
 }
 
+QLabel* ResultCard::Add_Number(QGridLayout& grid, int place, Column column, CaptionField& field) {
+  auto* number = new NumberLabel(grid, place, column);
+  view_.Bind<NumberBinder>(field, *number);
+  return number;
+}
+
 void ResultCard::Add_Row(QGridLayout& grid, int place, int heading, int value) {
   Row row{};
   row.heading = Add_Label(grid, place, kHeadingColumn, warmt_.Label3(heading));
   row.heading->setMinimumHeight(kRowHeight);
-  row.value = Add_Label(grid, place, kNumberColumn, warmt_.Label4(value));
+  row.value = Add_Number(grid, place, kNumberColumn, warmt_.Label4(value));
   row.unit = Add_Label(grid, place, kUnitColumn, warmt_.Label9(heading));
   if (heading == kSavingRow) {
-    row.percent = Add_Label(grid, place, kSecondNumberColumn, warmt_.Label4(kSavingRow));
-  }
-  for (QLabel* number : {row.value, row.percent}) {
-    if (number == nullptr) continue;
-    number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    number->setMargin(4);
+    row.percent = Add_Number(grid, place, kSecondNumberColumn, warmt_.Label4(kSavingRow));
   }
   rows_.push_back(row);
 }

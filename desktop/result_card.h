@@ -4,8 +4,7 @@
 #include <vector>
 
 #include "desktop/card.h"
-
-class QGridLayout;
+#include "desktop/columns.h"
 
 namespace norvane {
 
@@ -45,6 +44,7 @@ class ResultCard : public Card {
   void Add_Row(QGridLayout& grid, int place, int heading, int value);
   void Add_Savings_Heading(QGridLayout& grid, int place);
   QLabel* Add_Label(QGridLayout& grid, int place, int column, CaptionField& field);
+  QLabel* Add_Number(QGridLayout& grid, int place, Column column, CaptionField& field);
 
   FormView& view_;
   Warmt& warmt_;

@@ -1,14 +1,17 @@
 #include <QApplication>
+#include <QGridLayout>
+#include <QScreen>
 #include <QTest>
 #include <QWindow>
 #include <map>
 
+#include "desktop/number_label.h"
 #include "window_test.h"
 
 namespace norvane {
 namespace {
 
-/// Counts how often each widget is painted while it lives.
+/// Counts how often each widget is painted, and how often one is laid out, while it lives.
 class PaintCounter : public QObject {
  public:
   PaintCounter() { QApplication::instance()->installEventFilter(this); }
@@ -17,15 +20,18 @@ class PaintCounter : public QObject {
     const auto entry = paints_.find(&widget);
     return entry == paints_.end() ? 0 : entry->second;
   }
+  int Layouts() const { return layouts_; }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Paint) ++paints_[watched];
+    if (event->type() == QEvent::LayoutRequest) ++layouts_;
     return false;
   }
 
  private:
   std::map<const QObject*, int> paints_;
+  int layouts_ = 0;
 };
 
 /// All of a field that can be seen.
@@ -101,6 +107,68 @@ TEST_F(Painting, A_Key_Paints_What_It_Changes_Once_And_Nothing_Else) {
   Expect_Few_Paints("thickness with an inch form", Qt::Key_3);
   Mark(Screen().txtmtrs);
   Expect_Few_Paints("length", Qt::Key_2);
+}
+
+TEST_F(Painting, Typing_Lays_Nothing_Out_Anew) {
+  Mark(Screen().txtT(2));
+  Type("20");  // from here on the savings are numbers
+  Mark(Screen().txtT(0));
+  Type("5");
+  Settle();
+  const PaintCounter counter;
+  Type("7");
+  Press(Qt::Key_Backspace);
+  Press(Qt::Key_Up);
+  Settle();
+  EXPECT_EQ(counter.Layouts(), 0);
+}
+
+TEST(ANumberLabel, GrowsForANumberWiderThanItsColumnAndStaysSo) {
+  QWidget window;
+  auto* grid = new QGridLayout(&window);
+  auto* number = new NumberLabel(*grid, 0, kNumberColumn);
+  number->Show_Number("117455.60");
+  EXPECT_EQ(number->width(), kColumnWidth[kNumberColumn]);
+  for (const char* wide : {"12345678901234567890.00", "1.23456789012345E+30%"}) {
+    number->Show_Number(wide);
+    EXPECT_GE(number->width(), number->sizeHint().width());
+  }
+  const int widest = number->width();
+  EXPECT_GT(widest, kColumnWidth[kNumberColumn]);
+  number->Show_Number("1");
+  EXPECT_EQ(number->width(), widest);
+}
+
+TEST(ANumberLabel, IsAsHighAsALargeFontNeeds) {
+  QWidget window;
+  auto* grid = new QGridLayout(&window);
+  auto* number = new NumberLabel(*grid, 0, kNumberColumn);
+  number->setFont(QFont("Arial", 40));
+  number->Show_Number("1");
+  EXPECT_GE(number->height(), number->sizeHint().height());
+}
+
+TEST_F(Painting, What_A_Key_Paints_Is_What_The_Whole_Window_Would_Show) {
+  Mark(Screen().txtT(2));
+  Type("20");
+  Mark(Screen().txtT(0));
+  Type("57");
+  QTest::qWait(100);
+  const QImage on_screen =
+      QGuiApplication::primaryScreen()->grabWindow(Main_View().winId()).toImage();
+  QImage whole = Main_View().grab().toImage();
+  // The caret comes and goes.
+  const QWidget& field = Widget(Screen().txtT(0));
+  const QRect caret(field.mapTo(&Main_View(), QPoint()), field.size());
+  const auto same = [&](int x, int y) {
+    return caret.contains(x, y) || on_screen.pixelColor(x, y) == whole.pixelColor(x, y);
+  };
+  ASSERT_EQ(on_screen.size(), whole.size());
+  for (int y = 0; y < whole.height(); ++y) {
+    for (int x = 0; x < whole.width(); ++x) {
+      ASSERT_TRUE(same(x, y)) << "at " << x << ", " << y;
+    }
+  }
 }
 
 TEST_F(Painting, A_Too_Small_Diameter_Is_Painted_Once_In_Spite_Of_Its_Nested_Changes) {
