@@ -234,6 +234,8 @@ TimerBinder::TimerBinder(FormView& view, TickTimer& field, QTimer& timer)
                    [this] { Binder::view().desktop().Tick(field_); });
 }
 
+void TimerBinder::Let_Go() { timer_.stop(); }
+
 void TimerBinder::Show_Field() {
   if (timer_.isActive() == field_.Enabled()) return;
   if (field_.Enabled()) {

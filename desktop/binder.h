@@ -201,6 +201,8 @@ class TimerBinder : public Binder {
  public:
   TimerBinder(FormView& view, TickTimer& field, QTimer& timer);
 
+  void Let_Go() override;
+
  protected:
   void Show_Field() override;
 

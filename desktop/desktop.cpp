@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QThread>
 #include <QWindow>
+#include <utility>
 
 #include "calc/conversions.h"
 #include "data/runtime_error.h"
@@ -50,6 +51,7 @@ Desktop::~Desktop() {
     view->Detach();
     delete view;
   }
+  qDeleteAll(unloaded_);
 }
 
 char Desktop::Decimal_Separator() const {
@@ -74,10 +76,9 @@ void Desktop::Form_Unloaded(Form& form) {
   const auto entry = views_.find(&form);
   FormView* view = entry->second;
   views_.erase(entry);
-  // The view may be in the middle of an event of its own.
   view->Detach();
   view->hide();
-  view->deleteLater();
+  unloaded_.push_back(view);
 }
 
 FormView* Desktop::View_Of(const Form& form) const {
@@ -112,20 +113,27 @@ void Desktop::Let_Events_Run() {
 }
 
 void Desktop::Start() {
-  program_.Main();
-  After_Program_Call();
+  Call([this] { program_.Main(); });
 }
 
 void Desktop::Play(const UserEvent& event) {
   if (program_.Ended()) return;  // while its last message is still to be read
-  program_.Play(event);
-  After_Program_Call();
+  Call([&] { program_.Play(event); });
 }
 
 void Desktop::Tick(TickTimer& timer) {
   if (program_.Ended()) return;
-  program_.Tick(timer);
+  Call([&] { program_.Tick(timer); });
+}
+
+void Desktop::Call(const std::function<void()>& program_call) {
+  ++calls_;
+  program_call();
   After_Program_Call();
+  if (--calls_ > 0) return;
+  // Neither sooner, since an event further out may be one of such a window, nor at once, since this
+  // event may be.
+  for (FormView* view : std::exchange(unloaded_, {})) view->deleteLater();
 }
 
 void Desktop::After_Program_Call() {

@@ -64,6 +64,9 @@ class Desktop : public Platform, public Display {
   QString Text(const std::string& bytes) const;
 
  private:
+  /// Calls the program and shows what came of it. Calls are nested where the program lets events
+  /// run meanwhile.
+  void Call(const std::function<void()>& program_call);
   void After_Program_Call();
   QWidget* Front_Window() const;
 
@@ -71,6 +74,8 @@ class Desktop : public Platform, public Display {
   Busy busy_;
   std::unique_ptr<Spreadsheet> spreadsheet_;
   std::unordered_map<const Form*, FormView*> views_;
+  std::vector<FormView*> unloaded_;  ///< hidden, and without their forms
+  int calls_ = 0;
   Program program_;
 };
 

@@ -1,6 +1,9 @@
 #include "desktop/number_edit.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QPointer>
 #include <QWheelEvent>
 
 namespace norvane {
@@ -45,5 +48,13 @@ void NumberEdit::wheelEvent(QWheelEvent* event) {
 }
 
 void NumberEdit::mouseDoubleClickEvent(QMouseEvent*) { selectAll(); }
+
+void NumberEdit::contextMenuEvent(QContextMenuEvent* event) {
+  // A menu that deletes itself would do so in the middle of its own click when the change that it
+  // makes lets events run.
+  const QPointer<QMenu> menu = createStandardContextMenu();
+  menu->exec(event->globalPos());
+  delete menu;
+}
 
 }  // namespace norvane

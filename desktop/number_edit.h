@@ -24,6 +24,7 @@ class NumberEdit : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   int wheel_turned_ = 0;  // eighths of a degree that haven't made a step yet

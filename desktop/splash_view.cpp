@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QPainter>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "desktop/background.h"
@@ -19,7 +20,7 @@ SplashView::SplashView(Desktop& desktop, About& about) : FormView(desktop, about
   column->addStretch();
   column->addWidget(title);
   Bind<CaptionBinder>(about.Label1, *title);
-  Bind<TimerBinder>(about.Timer1, timer_);
+  Bind<TimerBinder>(about.Timer1, *new QTimer(this));
 }
 
 void SplashView::paintEvent(QPaintEvent*) {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QTimer>
-
 #include "desktop/form_view.h"
 #include "frame/about_form.h"
 
@@ -16,9 +14,6 @@ class SplashView : public FormView {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-
- private:
-  QTimer timer_;
 };
 
 }  // namespace norvane

@@ -1,4 +1,12 @@
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
 #include <QLocale>
+#include <QMenu>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
 
 #include "window_test.h"
 
@@ -108,6 +116,31 @@ TEST_F(Typing, What_Is_No_Number_Leaves_No_Trace) {
   Mark(Screen().txtT(1));
   Press(Qt::Key_Backspace);
   EXPECT_EQ(Shown(Screen().txtT(1)), "0");
+}
+
+TEST_F(Typing, An_Entry_Of_The_Context_Menu_May_Let_Events_Run_Meanwhile) {
+  // A length that is cut does so, and the menu is still in the middle of its click.
+  Mark(Screen().txtmtrs);
+  QApplication::clipboard()->setText("20000");
+  QPointer<QMenu> menu;
+  bool still_there = false;
+  QLineEdit& length = Edit(Screen().txtmtrs);
+  QObject::connect(&length, &QLineEdit::textEdited, &length, [&] { still_there = menu; });
+  QTimer::singleShot(100, [&] {
+    menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    for (QAction* action : menu->actions()) {
+      if (action->text().startsWith("&Paste")) menu->setActiveAction(action);
+    }
+    ASSERT_TRUE(menu->activeAction());
+    QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {},
+                      menu->actionGeometry(menu->activeAction()).center());
+  });
+  QTest::mouseClick(Main_View().windowHandle(), Qt::RightButton, {}, Middle(length));
+  QTest::qWait(300);
+  EXPECT_EQ(Shown(Screen().txtmtrs), "10000");
+  EXPECT_TRUE(still_there);
+  EXPECT_FALSE(menu);
 }
 
 TEST_F(Typing, Fields_Of_Condensation_Follow_The_Keys) {
