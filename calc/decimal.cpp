@@ -66,10 +66,7 @@ void Decimal::Round_To_Decimals(int decimals) {
     }
   }
   digits_.erase(digits_.find_last_not_of('0') + 1);
-  if (digits_.empty()) {
-    negative_ = false;
-    exponent_ = 0;
-  }
+  if (digits_.empty()) negative_ = false;
 }
 
 std::string Decimal::Whole_Part() const {

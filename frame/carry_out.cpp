@@ -60,13 +60,14 @@ bool Takes_Focus(const Field& field) {
          dynamic_cast<const Stepper*>(&field) == nullptr;
 }
 
-void Step(Field& field, int direction) {
+void Step(Field& field, UserAction action) {
+  const bool down = action == UserAction::kDown;
   if (auto* stepper = dynamic_cast<Stepper*>(&field)) {
-    stepper->Step(direction);
+    stepper->Step(down ? -1 : 1);
     return;
   }
   auto& pair = dynamic_cast<SpinPair&>(field);
-  const auto& handler = direction < 0 ? pair.On_Down : pair.On_Up;
+  const auto& handler = down ? pair.On_Down : pair.On_Up;
   if (handler) handler();
 }
 
@@ -118,10 +119,8 @@ void Carry_Out(Desk& desk, const UserEvent& event) {
       if (field.On_Click) field.On_Click();
       break;
     case UserAction::kDown:
-      Step(field, -1);
-      break;
     case UserAction::kUp:
-      Step(field, 1);
+      Step(field, event.action);
       break;
     case UserAction::kChoose:
       dynamic_cast<ListField&>(field).Set_ListIndex(event.first);

@@ -101,9 +101,9 @@ void Warmt::Color(float Wrd, std::int16_t Index) {
   };
   if (Wrd == 0) {
     Label1(Index).Set_BackColor({255, 255, 255});
-  } else if (Wrd > 0 && size <= 125) {
-    Label1(Index).Set_BackColor({255, shade(2), shade(2)});
-  } else if (Wrd < 0 && size <= 80) {
+  } else if (Wrd > 0) {
+    if (size <= 125) Label1(Index).Set_BackColor({255, shade(2), shade(2)});
+  } else if (size <= 80) {
     Label1(Index).Set_BackColor({shade(3), shade(3), 255});
   }
 }
