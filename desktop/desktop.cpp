@@ -195,6 +195,7 @@ void Desktop::Runtime_Error(int number, const std::string& words) {
       QString("Run-time error '%1':\n\n%2").arg(number).arg(QString::fromStdString(words));
   QMessageBox box(QMessageBox::Critical, kTitle, text, QMessageBox::Ok, Front_Window());
   box.setTextFormat(Qt::PlainText);
+  box.setEscapeButton(QMessageBox::Ok);
   // The program ends, but the user's lines need not be lost with it. The message stays: on many
   // desktops what was copied is gone with the program that copied it.
   if (Has_Saved_Lines(program_.State())) {

@@ -152,6 +152,18 @@ TEST_F(End, A_Runtime_Error_Without_Saved_Lines_Has_Nothing_To_Copy) {
   EXPECT_EQ(Status_Of([this] { Paste(Screen().txtmtrs, "-40000"); }), 3);
 }
 
+TEST_F(End, A_Runtime_Error_Is_Put_Away_By_Escape_With_Saved_Lines_Too) {
+  watchdog.Expect([](QWidget& window) {
+    Press(Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 1000));
+  });
+  const int status = Status_Of([this] {
+    Click(Screen().cmdAdd);
+    Paste(Screen().txtmtrs, "-40000");
+  });
+  EXPECT_EQ(status, 3);
+}
+
 TEST_F(End, A_Temperature_Beyond_16_Bits_Is_The_Same_Error) {
   watchdog.Expect_Message(QMessageBox::Ok);
   EXPECT_EQ(Status_Of([this] { Paste(Screen().txtT(1), "40000"); }), 3);

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
+#include <QMessageBox>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QTest>
@@ -61,7 +62,8 @@ void RandomUser::timerEvent(QTimerEvent*) {
     return;
   }
   Begin();
-  if (waits_) {
+  // A message that comes meanwhile is answered like any other.
+  if (waits_ && qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) == nullptr) {
     chance_.One_In(2) ? Resize() : Bring_To_Front();
   } else {
     Do_Something();
