@@ -68,6 +68,12 @@ TEST_F(TheDesign, StartsWithEmptyFieldsButTheLength) {
   EXPECT_EQ(warmt_.txtmtrs.Text(), "0");
 }
 
+TEST_F(TheDesign, WritesNumbersInArialOf9Points) {
+  for (TextField& field : warmt_.txtT) {
+    EXPECT_EQ(field.Font(), (Font{"Arial", 9, false, std::nullopt}));
+  }
+}
+
 TEST_F(TheDesign, GivesTheConversionsAGroundAndTheFootABar) {
   for (CaptionField& conversion : warmt_.Text2) {
     EXPECT_EQ(conversion.BackStyle(), BackStyle::kOpaque);
