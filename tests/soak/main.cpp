@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFont>
-#include <QPixmapCache>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -120,9 +119,6 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(norvane::kTitle);
   QApplication::setQuitOnLastWindowClosed(false);
   QFont::insertSubstitutions("Arial", {"Liberation Sans", "Arimo", "Nimbus Sans", "Helvetica"});
-  // Painted parts that Qt keeps, 10 MB at most. A smaller store is full before the first sample.
-  constexpr int kKept = 1024;  // KiB
-  QPixmapCache::setCacheLimit(kKept);
   const QStringList arguments = QApplication::arguments();
   const int events = arguments.value(2).toInt();
   if (arguments.size() != 4 || events < 1000) {

@@ -3,6 +3,7 @@
 #include <malloc.h>
 
 #include <QApplication>
+#include <QPixmapCache>
 #include <array>
 #include <cstdio>
 #include <filesystem>
@@ -102,6 +103,8 @@ Sample Samples::Now(const QWidget& window) const {
 
 void Samples::Look(int event, const QWidget& window) {
   constexpr std::size_t kLooks = 10;
+  // Qt's store of painted parts fills for hours, with a part for each size of a button.
+  QPixmapCache::clear();
   looks_.push_back(Now(window));
   if (looks_.size() < kLooks) return;
   all_.push_back(Mean(looks_));
