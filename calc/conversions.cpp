@@ -47,7 +47,7 @@ bool Is_Beyond_Range(std::string_view number) {
   const std::size_t e = number.find_first_of("eE");
   const std::string_view mantissa = number.substr(0, e);
   const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
-  const auto first = mantissa.find_first_of("123456789");
+  const auto first = static_cast<long long>(mantissa.find_first_of("123456789"));
   long long exponent = 0;
   if (e != std::string_view::npos) {
     const bool negative = number[e + 1] == '-';
@@ -56,7 +56,8 @@ bool Is_Beyond_Range(std::string_view number) {
     if (read.ec != std::errc()) return !negative;
     if (negative) exponent = -exponent;
   }
-  return exponent + point - static_cast<long long>(first) > 0;
+  // The exponent may be the largest of its kind: nothing is added to it.
+  return exponent > first - point;
 }
 
 /// The double nearest to `number`, which `Numeric_Prefix` has found whole.

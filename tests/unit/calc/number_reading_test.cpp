@@ -137,11 +137,15 @@ TEST(Val, IsInfiniteBeyondTheDoubleRange) {
   EXPECT_EQ(Val("1e99999999999999999999"), kInfinity);
   EXPECT_EQ(Val("1e+400"), kInfinity);
   EXPECT_EQ(Val("1e+99999999999999999999"), kInfinity);
+  EXPECT_EQ(Val("1e9223372036854775807"), kInfinity);
+  EXPECT_EQ(Val("10000e9223372036854775807"), kInfinity);
   EXPECT_EQ(Val(Huge("", '9')), kInfinity);
 }
 
 TEST(Val, IsZeroBelowTheDoubleRange) {
   EXPECT_EQ(Val("1E-999"), 0.0);
+  EXPECT_EQ(Val("0.0001e-9223372036854775807"), 0.0);
+  EXPECT_EQ(Val("0.0001e-9223372036854775808"), 0.0);
   EXPECT_EQ(Val("1e-99999999999999999999"), 0.0);
   EXPECT_EQ(Val(Huge("0.", '0', "1")), 0.0);
 }
