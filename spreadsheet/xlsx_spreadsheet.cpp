@@ -24,6 +24,14 @@ fs::path New_File(const std::string& title) {
   return folder / (title + ".xlsx");
 }
 
+/// What could not be written leaves nothing behind.
+bool Write_Or_Remove(WriteWorkbook* write, const Workbook& book, const fs::path& file) {
+  if (write(book, file)) return true;
+  std::error_code error;
+  fs::remove_all(file.parent_path(), error);
+  return false;
+}
+
 }  // namespace
 
 XlsxSpreadsheet::XlsxSpreadsheet(const fs::path& program_folder, SpreadsheetWaiting& waiting,
@@ -91,9 +99,8 @@ void XlsxSpreadsheet::Release() {
   if (write == nullptr) return;
   try {
     const fs::path file = New_File(book->title);
-    if (PatientThread(waiting_, kPatience).Run([=] { return write(book->cells, file); })) {
-      open_(file);
-    }
+    const auto task = [=] { return Write_Or_Remove(write, book->cells, file); };
+    if (PatientThread(waiting_, kPatience).Run(task)) open_(file);
   } catch (const SpreadsheetFailure&) {
     // A step that fails is passed over without a word.
   } catch (const fs::filesystem_error&) {

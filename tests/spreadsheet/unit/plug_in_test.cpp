@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <memory>
 #include <string>
 
@@ -27,8 +28,8 @@ class AWorkbookFile : public testing::Test {
   AWorkbookFile() { folder_.Write("total.xls", "a template"); }
 
   void Install() { fs::create_symlink(WORKBOOK_PLUG_IN, folder_ / "norvane_workbook.so"); }
-  void Write_Book() {
-    spreadsheet_.Open("total.xls", 0);
+  void Write_Book(const std::string& name = "total.xls") {
+    spreadsheet_.Open(name, 0);
     spreadsheet_.Value("A1:B1", {std::string("a"), 2.5});
     spreadsheet_.Release();
   }
@@ -48,6 +49,23 @@ TEST_F(AWorkbookFile, IsWrittenByThePlugInBesideTheProgram) {
   EXPECT_EQ(opened_[0].filename(), "total.xlsx");
   EXPECT_GT(fs::file_size(opened_[0]), 1000U);
   fs::remove_all(opened_[0].parent_path());
+}
+
+TEST_F(AWorkbookFile, ThatCannotBeWrittenLeavesNothingBehind) {
+  Install();
+  constexpr std::size_t kLongestName = 255;
+  const std::string name = std::string(kLongestName - 4, 't') + ".xls";
+  folder_.Write(name, "a template");
+  const fs::path temporary = folder_ / "temporary";
+  fs::create_directory(temporary);
+  setenv("TMPDIR", temporary.c_str(), 1);
+  Write_Book(name);
+  EXPECT_TRUE(opened_.empty());
+  EXPECT_TRUE(fs::is_empty(temporary));
+  Write_Book();
+  EXPECT_EQ(opened_.size(), 1U);
+  EXPECT_FALSE(fs::is_empty(temporary));
+  unsetenv("TMPDIR");
 }
 
 TEST_F(AWorkbookFile, IsNotThereWithoutThePlugIn) {
