@@ -1,25 +1,23 @@
 #include "desktop/address_view.h"
 
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QToolButton>
+
+#include "desktop/flat_button.h"
 
 namespace norvane {
 
 AddressView::AddressView(Desktop& desktop, Address& address) : FormView(desktop, address) {
+  Close_By_Escape();
   auto* page = new QGridLayout(this);
   page->setContentsMargins(12, 8, 10, 12);
   page->setColumnStretch(0, 1);
   auto* heading = new QLabel;
   page->addWidget(heading, 0, 0);
   Bind<CaptionBinder>(address.Label1, *heading);
-  auto* exit = new QToolButton;
-  exit->setAutoRaise(true);
-  exit->setText(QChar(0xD7));
-  exit->setFocusPolicy(Qt::NoFocus);
+  auto* exit = new CloseCross;
   page->addWidget(exit, 0, 1, Qt::AlignRight);
   Bind<PictureBinder>(address.imgExit, *exit);
   auto* list = new QListWidget;
@@ -30,14 +28,6 @@ AddressView::AddressView(Desktop& desktop, Address& address) : FormView(desktop,
   ok->setDefault(true);
   page->addWidget(ok, 2, 1, Qt::AlignRight);
   Bind<ButtonBinder>(address.OK, *ok);
-}
-
-void AddressView::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) {
-    Play(UserAction::kCloseBox);
-    return;
-  }
-  FormView::keyPressEvent(event);
 }
 
 }  // namespace norvane

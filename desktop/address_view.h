@@ -11,9 +11,6 @@ class AddressView : public FormView {
 
  public:
   AddressView(Desktop& desktop, Address& address);
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override;
 };
 
 }  // namespace norvane

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
@@ -128,6 +129,10 @@ void FormView::Show_Window() {
     raise();
     activateWindow();
   }
+}
+
+void FormView::Close_By_Escape() {
+  new QShortcut(Qt::Key_Escape, this, [this] { Play(UserAction::kCloseBox); });
 }
 
 void FormView::Place_Window() {

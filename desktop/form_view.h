@@ -64,6 +64,8 @@ class FormView : public QWidget, public FormObserver {
   virtual void Arrange() {}
   /// Gives fields with a caption a letter each; the first ones have the first choice.
   void Give_Letters(const std::vector<const Field*>& fields);
+  /// The Escape key does what the window's close box does.
+  void Close_By_Escape();
   /// Puts the window to its place on the screen before it is shown.
   virtual void Place_Window();
 

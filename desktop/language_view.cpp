@@ -1,13 +1,15 @@
 #include "desktop/language_view.h"
 
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
-#include <QToolButton>
+#include <QVBoxLayout>
 
 #include "desktop/background.h"
+#include "desktop/colours.h"
+#include "desktop/flat_button.h"
+#include "desktop/kept_room.h"
 
 namespace norvane {
 namespace {
@@ -38,28 +40,33 @@ class TickMark : public QWidget {
 }  // namespace
 
 LanguageView::LanguageView(Desktop& desktop, Lang& lang) : FormView(desktop, lang) {
-  // The ground is light under every theme of the desktop.
-  setPalette(QPalette(QColor(228, 238, 218)));
-  auto* page = new QGridLayout(this);
+  Close_By_Escape();
+  auto* page = new QVBoxLayout(this);
   page->setContentsMargins(18, 8, 10, 18);
-  auto* heading = new QLabel;
-  page->addWidget(heading, 0, 0);
-  Bind<CaptionBinder>(lang.Label1, *heading);
-  auto* exit = new QToolButton;
-  exit->setAutoRaise(true);
-  exit->setText(QChar(0xD7));
-  exit->setFocusPolicy(Qt::NoFocus);
-  page->addWidget(exit, 0, 1, Qt::AlignRight);
-  Bind<PictureBinder>(lang.imgExit, *exit);
-
-  auto* entries = new QGridLayout;
-  for (int i = 0; i < kShownEntries; ++i) entries->addWidget(Make_Entry(lang, i), i / 2, i % 2);
-  page->addLayout(entries, 1, 0, 1, 2);
-  page->setRowStretch(2, 1);
+  page->addWidget(Make_List(lang));
+  page->addStretch();
   auto* ok = new QPushButton;
   ok->setDefault(true);
-  page->addWidget(ok, 3, 1, Qt::AlignRight);
+  page->addWidget(ok, 0, Qt::AlignRight);
   Bind<ButtonBinder>(lang.OK, *ok);
+}
+
+QWidget* LanguageView::Make_List(Lang& lang) {
+  auto* list = new QWidget;
+  // The ground is light under every theme of the desktop.
+  list->setPalette(QPalette(kGround));
+  auto* rows = new QGridLayout(list);
+  rows->setContentsMargins(0, 0, 0, 0);
+  auto* heading = new QLabel;
+  rows->addWidget(heading, 0, 0);
+  Bind<CaptionBinder>(lang.Label1, *heading);
+  auto* exit = new CloseCross;
+  rows->addWidget(exit, 0, 1, Qt::AlignRight);
+  Bind<PictureBinder>(lang.imgExit, *exit);
+  auto* entries = new QGridLayout;
+  for (int i = 0; i < kShownEntries; ++i) entries->addWidget(Make_Entry(lang, i), i / 2, i % 2);
+  rows->addLayout(entries, 1, 0, 1, 2);
+  return list;
 }
 
 QWidget* LanguageView::Make_Entry(Lang& lang, int index) {
@@ -68,17 +75,11 @@ QWidget* LanguageView::Make_Entry(Lang& lang, int index) {
   auto* row = new QHBoxLayout(entry);
   row->setContentsMargins(0, 0, 0, 0);
   auto* mark = new TickMark;
-  QSizePolicy kept = mark->sizePolicy();
-  kept.setRetainSizeWhenHidden(true);
-  mark->setSizePolicy(kept);
+  Keep_Room(*mark);
   row->addWidget(mark);
   Bind<PictureBinder>(lang.imgCheck(index), *mark);
-  auto* name = new QPushButton;
-  name->setFlat(true);
+  auto* name = new TextButton;
   name->setAutoDefault(true);
-  name->setStyleSheet("text-align: left; padding: 2px 6px;");
-  // A button with a style sheet doesn't take its window's colours by itself.
-  name->setPalette(palette());
   name->setMinimumWidth(kNameWidth);
   row->addWidget(name);
   Bind<CaptionButtonBinder>(lang.Label2(index), *name);
@@ -95,14 +96,6 @@ void LanguageView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   constexpr qreal kBehindNames = 0.12;
   Draw_Background(painter, size(), kBehindNames);
-}
-
-void LanguageView::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) {
-    Play(UserAction::kCloseBox);
-    return;
-  }
-  FormView::keyPressEvent(event);
 }
 
 }  // namespace norvane

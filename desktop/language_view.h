@@ -14,9 +14,9 @@ class LanguageView : public FormView {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  QWidget* Make_List(Lang& lang);
   QWidget* Make_Entry(Lang& lang, int index);
 };
 

@@ -9,6 +9,7 @@
 #include "desktop/columns.h"
 #include "desktop/desktop.h"
 #include "desktop/form_view.h"
+#include "desktop/kept_room.h"
 #include "desktop/object_picture.h"
 #include "desktop/tool_button.h"
 #include "screen/warmt.h"
@@ -43,9 +44,7 @@ ObjectCard::ObjectCard(FormView& view, Warmt& warmt)
   view.Bind<PictureBinder>(warmt.picTotal, *total_);
   for (QWidget* widget : {static_cast<QWidget*>(add), static_cast<QWidget*>(total_)}) {
     widget->setMinimumHeight(total_->sizeHint().height());
-    QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget->setSizePolicy(policy);
+    Keep_Room(*widget);
   }
   column->addLayout(saving);
 }

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "desktop/colours.h"
+#include "desktop/flat_button.h"
 #include "desktop/material.h"
 
 namespace norvane {
@@ -38,17 +39,11 @@ void ToolButton::paintEvent(QPaintEvent*) {
     painter.setBrush(Veil(kAccent, 0.22));
     painter.setPen(QPen(kAccent, line));
     painter.drawRoundedRect(frame, kCorner, kCorner);
-  } else if (underMouse() || isDown()) {
-    painter.setBrush(Veil(ink, isDown() ? 0.18 : 0.09));
-    painter.setPen(Qt::NoPen);
-    painter.drawRoundedRect(frame, kCorner, kCorner);
+  } else {
+    Draw_Touch(painter, *this, frame, ink);
   }
-  if (hasFocus()) {
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Veil(ink, 0.65), line / 2));
-    const qreal gap = 1.5 * line;
-    painter.drawRoundedRect(frame.adjusted(gap, gap, -gap, -gap), kCorner - gap, kCorner - gap);
-  }
+  const qreal gap = 1.5 * line;
+  Draw_Focus(painter, *this, frame.adjusted(gap, gap, -gap, -gap), ink, line / 2);
   painter.translate((width() - kSignSize) / 2.0, (height() - kSignSize) / 2.0);
   Draw_Sign(painter, sign_, kSignSize, ink);
 }

@@ -8,6 +8,7 @@
 #include "desktop/columns.h"
 #include "desktop/desktop.h"
 #include "desktop/form_view.h"
+#include "desktop/kept_room.h"
 #include "screen/warmt.h"
 
 namespace norvane {
@@ -44,10 +45,7 @@ void ToolStrip::Add_Group(QBoxLayout& row, const std::vector<std::pair<Button*, 
 
 void ToolStrip::Add_Button(QBoxLayout& row, Button& field, ToolSign sign) {
   auto* button = new ToolButton(sign);
-  // Hidden buttons keep their place, so that the others don't move.
-  QSizePolicy policy = button->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  button->setSizePolicy(policy);
+  Keep_Room(*button);
   row.addWidget(button);
   view_.Bind<ButtonBinder>(field, *button);
   buttons_.emplace_back(&field, button);
