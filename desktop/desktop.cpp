@@ -7,6 +7,7 @@
 #include <QFontDatabase>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPixmapCache>
 #include <QPushButton>
 #include <QScreen>
 #include <QThread>
@@ -27,6 +28,10 @@ namespace {
 
 constexpr int kExitAfterRuntimeError = 3;
 
+// Qt keeps pictures of painted buttons, of each size and state that one ever had. Those of a window
+// take a fifth of this; the 10 MiB that Qt allows would fill with what was seen once.
+constexpr double kPaintedPartsKib = 1536;
+
 QMessageBox::Icon Icon_Of(MessageIcon icon) {
   switch (icon) {
     case MessageIcon::kInformation:
@@ -41,10 +46,20 @@ QMessageBox::Icon Icon_Of(MessageIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+/// Shows a box, with words alone on its buttons, as on the program's own; the answer.
+int Ask(QMessageBox& box) {
+  box.setTextFormat(Qt::PlainText);
+  for (QAbstractButton* button : box.buttons()) button->setIcon({});
+  return box.exec();
+}
+
 }  // namespace
 
 Desktop::Desktop(const std::filesystem::path& folder, const SpreadsheetMaker& make_spreadsheet)
-    : files_(folder), spreadsheet_(make_spreadsheet(folder, busy_)), program_(*this) {}
+    : files_(folder), spreadsheet_(make_spreadsheet(folder, busy_)), program_(*this) {
+  const double scale = qApp->devicePixelRatio();
+  QPixmapCache::setCacheLimit(qRound(kPaintedPartsKib * scale * scale));
+}
 
 Desktop::~Desktop() {
   for (const auto& [form, view] : views_) {
@@ -183,9 +198,8 @@ MessageAnswer Desktop::Message(const std::string& title, const std::string& text
       Icon_Of(icon), Text(title), lines,
       yes_no ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok),
       Front_Window());
-  box.setTextFormat(Qt::PlainText);
   if (yes_no) box.setEscapeButton(QMessageBox::No);
-  const int answer = box.exec();
+  const int answer = Ask(box);
   if (!yes_no) return MessageAnswer::kOk;
   return answer == QMessageBox::Yes ? MessageAnswer::kYes : MessageAnswer::kNo;
 }
@@ -194,7 +208,6 @@ void Desktop::Runtime_Error(int number, const std::string& words) {
   const QString text =
       QString("Run-time error '%1':\n\n%2").arg(number).arg(QString::fromStdString(words));
   QMessageBox box(QMessageBox::Critical, kTitle, text, QMessageBox::Ok, Front_Window());
-  box.setTextFormat(Qt::PlainText);
   box.setEscapeButton(QMessageBox::Ok);
   // The program ends, but the user's lines need not be lost with it. The message stays: on many
   // desktops what was copied is gone with the program that copied it.
@@ -206,7 +219,7 @@ void Desktop::Runtime_Error(int number, const std::string& words) {
       copy->setEnabled(false);
     });
   }
-  box.exec();
+  Ask(box);
 }
 
 }  // namespace norvane
