@@ -25,11 +25,16 @@ namespace {
 using norvane::Desktop;
 
 constexpr int kUsage = 2;
+constexpr int kBetweenLooks = 100;
 
 class Soak {
  public:
   Soak(std::filesystem::path folder, int events, unsigned seed)
-      : folder_(std::move(folder)), events_(events), chance_(seed), user_(chance_) {}
+      : folder_(std::move(folder)),
+        events_(events),
+        chance_(seed),
+        user_(chance_),
+        samples_(static_cast<std::size_t>(events / kBetweenLooks)) {}
 
   /// Whether the process stayed as it was.
   bool Play();
@@ -78,13 +83,11 @@ void Soak::Play_One_Program() {
 }
 
 bool Soak::Had_Enough(const Desktop& desktop, const QWidget& window) {
-  constexpr int kLooks = 1000;
-  const int between = events_ / kLooks;
-  const int warm_up = events_ / 10;
   if (played_ == events_) return true;
   ++played_;
   const bool alive = !const_cast<Desktop&>(desktop).program().Ended();
-  if (played_ % between == 0 && played_ > warm_up && alive) samples_.Look(played_, window);
+  if (played_ % kBetweenLooks == 0 && played_ > events_ / 10 && alive)
+    samples_.Look(played_, window);
   return false;
 }
 
