@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPixmapCache>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QThread>
 #include <QWindow>
@@ -112,7 +113,14 @@ void Desktop::Run_Modal(Form& form) {
 
 void Desktop::Let_Events_Run() {
   Show_Changes();
-  // A window that was just shown can paint only when the display server has exposed it.
+  // What the user does during the wait may come here again, and would wait again: without an end,
+  // and ever deeper, where the display takes its time.
+  if (!waits_for_exposure_) Wait_For_Exposure();
+  QCoreApplication::processEvents();
+}
+
+void Desktop::Wait_For_Exposure() {
+  const QScopedValueRollback<bool> waiting(waits_for_exposure_, true);
   constexpr int kPatience = 300;  // milliseconds
   const QDeadlineTimer patience(kPatience);
   const auto exposed = [this] {
@@ -124,7 +132,6 @@ void Desktop::Let_Events_Run() {
     QCoreApplication::processEvents();
     QThread::msleep(1);
   }
-  QCoreApplication::processEvents();
 }
 
 void Desktop::Start() {

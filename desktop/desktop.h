@@ -68,6 +68,8 @@ class Desktop : public Platform, public Display {
   /// run meanwhile.
   void Call(const std::function<void()>& program_call);
   void After_Program_Call();
+  /// A window that was just shown can paint only when the display server has exposed it.
+  void Wait_For_Exposure();
   QWidget* Front_Window() const;
 
   DiskFiles files_;
@@ -76,6 +78,7 @@ class Desktop : public Platform, public Display {
   std::unordered_map<const Form*, FormView*> views_;
   std::vector<FormView*> unloaded_;  ///< hidden, and without their forms
   int calls_ = 0;
+  bool waits_for_exposure_ = false;
   Program program_;
 };
 
