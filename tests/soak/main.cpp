@@ -85,9 +85,9 @@ void Soak::Play_One_Program() {
 bool Soak::Had_Enough(const Desktop& desktop, const QWidget& window) {
   if (played_ == events_) return true;
   ++played_;
+  const int warm_up = events_ / 10;
   const bool alive = !const_cast<Desktop&>(desktop).program().Ended();
-  if (played_ % kBetweenLooks == 0 && played_ > events_ / 10 && alive)
-    samples_.Look(played_, window);
+  if (played_ % kBetweenLooks == 0 && played_ > warm_up && alive) samples_.Look(played_, window);
   return false;
 }
 

@@ -10,7 +10,7 @@ namespace norvane {
 
 /// What the process holds.
 struct Sample {
-  double memory = 0;   ///< KiB of its own and of its part in what is shared (PSS)
+  double memory = 0;   ///< KiB in memory (PSS), without the pictures of windows
   double heap = 0;     ///< KiB that are allocated
   double handles = 0;  ///< open files, sockets and the like
   double widgets = 0;
