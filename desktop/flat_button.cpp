@@ -8,19 +8,22 @@
 namespace norvane {
 namespace {
 
-constexpr qreal kCorner = 5;
 constexpr int kCross = 9;
 constexpr int kCrossWidth = 27;
 constexpr int kCrossHeight = 21;
 
 }  // namespace
 
+QRectF Frame_Of(const QWidget& widget, qreal line) {
+  return QRectF(widget.rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
+}
+
 void Draw_Touch(QPainter& painter, const QAbstractButton& button, const QRectF& frame,
                 const QColor& ink) {
   if (!button.underMouse() && !button.isDown()) return;
   painter.setBrush(Veil(ink, button.isDown() ? 0.18 : 0.09));
   painter.setPen(Qt::NoPen);
-  painter.drawRoundedRect(frame, kCorner, kCorner);
+  painter.drawRoundedRect(frame, kButtonCorner, kButtonCorner);
 }
 
 void Draw_Focus(QPainter& painter, const QAbstractButton& button, const QRectF& frame,
@@ -28,7 +31,7 @@ void Draw_Focus(QPainter& painter, const QAbstractButton& button, const QRectF& 
   if (!button.hasFocus()) return;
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(Veil(ink, 0.65), line));
-  painter.drawRoundedRect(frame, kCorner, kCorner);
+  painter.drawRoundedRect(frame, kButtonCorner, kButtonCorner);
 }
 
 void TextButton::paintEvent(QPaintEvent*) {
@@ -37,7 +40,7 @@ void TextButton::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QColor& ink = palette().color(QPalette::WindowText);
   const qreal line = 1 / devicePixelRatioF();
-  const QRectF frame = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
+  const QRectF frame = Frame_Of(*this, line);
   Draw_Touch(painter, *this, frame, ink);
   Draw_Focus(painter, *this, frame, ink, line);
   painter.setPen(ink);

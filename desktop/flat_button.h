@@ -12,6 +12,12 @@ namespace norvane {
 // and finds it again only under the very palette that it was painted with, which a window with
 // colours of its own makes anew each time that it opens.
 
+/// The radius of their corners.
+inline constexpr qreal kButtonCorner = 5;
+
+/// Where a frame of the width `line` runs along the edges of a widget.
+QRectF Frame_Of(const QWidget& widget, qreal line);
+
 /// A veil in the colour of the ink while the mouse is on a button, a stronger one while it is down.
 void Draw_Touch(QPainter& painter, const QAbstractButton& button, const QRectF& frame,
                 const QColor& ink);

@@ -15,7 +15,6 @@ constexpr int kWidth = 44;
 constexpr int kHeight = 34;
 constexpr int kSignSize = 26;
 constexpr qreal kLine = 1.5;
-constexpr qreal kCorner = 5;
 
 }  // namespace
 
@@ -34,11 +33,11 @@ void ToolButton::paintEvent(QPaintEvent*) {
   const QColor& ink = palette().color(QPalette::WindowText);
   // A frame of whole pixels of the screen is a sharp one.
   const qreal line = qRound(kLine * devicePixelRatioF()) / devicePixelRatioF();
-  const QRectF frame = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
+  const QRectF frame = Frame_Of(*this, line);
   if (isChecked()) {
     painter.setBrush(Veil(kAccent, 0.22));
     painter.setPen(QPen(kAccent, line));
-    painter.drawRoundedRect(frame, kCorner, kCorner);
+    painter.drawRoundedRect(frame, kButtonCorner, kButtonCorner);
   } else {
     Draw_Touch(painter, *this, frame, ink);
   }
