@@ -3,8 +3,13 @@
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QPointer>
+#include <QProcess>
 #include <QProgressDialog>
 #include <QTest>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -74,6 +79,14 @@ class SlowSpreadsheet : public Spreadsheet {
   Seen& seen_;
 };
 
+/// Takes a window off the display while the program goes on showing it.
+void Unmap(const QWidget& window) {
+  const QString number = QString::number(window.winId());
+  ASSERT_EQ(QProcess::execute("xdotool", {"windowunmap", number}), 0);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !window.windowHandle()->isExposed(); }));
+  ASSERT_TRUE(window.isVisible());
+}
+
 class Waiting : public WindowTest {
  protected:
   Waiting()
@@ -135,6 +148,24 @@ TEST_F(Waiting, A_Window_That_Closes_Meanwhile_Takes_Nothing_Along) {
   busy.Progress(2, 30000);
   busy.End();
   EXPECT_EQ(dialog, nullptr);
+}
+
+TEST_F(Waiting, Events_Let_In_While_The_Display_Is_Awaited_Wait_No_Deeper) {
+  ASSERT_NO_FATAL_FAILURE(Unmap(Main_View()));
+  constexpr int kCalls = 20;
+  int calls = 0;
+  int depth = 0;
+  int deepest = 0;
+  const std::function<void()> let_events_run = [&] {
+    deepest = std::max(deepest, ++depth);
+    if (++calls < kCalls) QTimer::singleShot(10, &Main_View(), let_events_run);
+    desktop.Let_Events_Run();
+    --depth;
+  };
+  let_events_run();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return calls == kCalls && depth == 0; }));
+  // Two is the rule; a busy machine may have one more due in the middle of another.
+  EXPECT_LT(deepest, kCalls / 2);
 }
 
 TEST_F(Waiting, A_Short_List_Shows_No_Progress) {
