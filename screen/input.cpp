@@ -9,11 +9,31 @@ namespace {
 constexpr double kMostThickness = 100;  // mm
 constexpr double kMostLength = 10000;   // m or m2
 
+/// Handlers that may run inside each other; where they come to an end, three do.
+constexpr int kDeepest = 16;
+
+/// Counts a call for as long as it runs.
+class Running {
+ public:
+  explicit Running(int& calls) : calls_(calls) { ++calls_; }
+  ~Running() { --calls_; }
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
+
+ private:
+  int& calls_;
+};
+
 }  // namespace
 
 void Warmt::Change(FieldArray<TextField>& F, int Index) {
   if (Index == 0 || Index == 1) Show_Fahrenheit(Index, F(Index));
   if (Calc_Busy) return;
+  // The thickness of mode "C" knows no limit, but its field does: a result above it is cut and
+  // calculated anew, and what isn't canonical of the new text ("177.0", or "177,3", which reads as
+  // 177) is mended, which is cut again, without an end. Each handler ends with the result in place.
+  if (changes_ == kDeepest) return;
+  const Running running(changes_);
   switch (Index) {
     case 0:
     case 1:

@@ -183,6 +183,7 @@ class Warmt : public Form {
   void Show_Common_Rows();
 
   Module1& module1_;
+  int changes_ = 0;  ///< handlers of `txtT` and `txtC` under way, inside each other
 };
 
 }  // namespace norvane
