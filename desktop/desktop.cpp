@@ -29,10 +29,6 @@ namespace {
 
 constexpr int kExitAfterRuntimeError = 3;
 
-// Qt keeps pictures of painted buttons, of each size and state that one ever had. Those of a window
-// take a fifth of this; the 10 MiB that Qt allows would fill with what was seen once.
-constexpr double kPaintedPartsKib = 1536;
-
 QMessageBox::Icon Icon_Of(MessageIcon icon) {
   switch (icon) {
     case MessageIcon::kInformation:
@@ -58,8 +54,10 @@ int Ask(QMessageBox& box) {
 
 Desktop::Desktop(const std::filesystem::path& folder, const SpreadsheetMaker& make_spreadsheet)
     : files_(folder), spreadsheet_(make_spreadsheet(folder, busy_)), program_(*this) {
-  const double scale = qApp->devicePixelRatio();
-  QPixmapCache::setCacheLimit(qRound(kPaintedPartsKib * scale * scale));
+  // Qt never forgets the name of a picture that it kept of a part of a window, and there is one for
+  // each part, size, state and palette. To paint a button anew takes some hundredths of a
+  // millisecond.
+  QPixmapCache::setCacheLimit(0);
 }
 
 Desktop::~Desktop() {
@@ -113,14 +111,17 @@ void Desktop::Run_Modal(Form& form) {
 
 void Desktop::Let_Events_Run() {
   Show_Changes();
-  // What the user does during the wait may come here again, and would wait again: without an end,
-  // and ever deeper, where the display takes its time.
-  if (!waits_for_exposure_) Wait_For_Exposure();
+  // What the user does meanwhile may come here again. Where all of it has queued up behind a slow
+  // display, the calls would be nested as deep as the queue is long; the rest of it is left to an
+  // outer call then.
+  constexpr int kDeepest = 32;
+  if (yields_ == kDeepest) return;
+  const QScopedValueRollback<int> one_more(yields_, yields_ + 1);
+  if (yields_ == 1) Wait_For_Exposure();
   QCoreApplication::processEvents();
 }
 
 void Desktop::Wait_For_Exposure() {
-  const QScopedValueRollback<bool> waiting(waits_for_exposure_, true);
   constexpr int kPatience = 300;  // milliseconds
   const QDeadlineTimer patience(kPatience);
   const auto exposed = [this] {

@@ -78,7 +78,7 @@ class Desktop : public Platform, public Display {
   std::unordered_map<const Form*, FormView*> views_;
   std::vector<FormView*> unloaded_;  ///< hidden, and without their forms
   int calls_ = 0;
-  bool waits_for_exposure_ = false;
+  int yields_ = 0;  ///< calls of Let_Events_Run under way
   Program program_;
 };
 

@@ -8,9 +8,7 @@ class QPainter;
 
 namespace norvane {
 
-// Buttons without a frame. They paint themselves: the style keeps a picture of each of its buttons,
-// and finds it again only under the very palette that it was painted with, which a window with
-// colours of its own makes anew each time that it opens.
+// Buttons without a frame, which look the same under every style of the desktop.
 
 /// The radius of their corners.
 inline constexpr qreal kButtonCorner = 5;

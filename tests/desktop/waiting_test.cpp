@@ -168,6 +168,24 @@ TEST_F(Waiting, Events_Let_In_While_The_Display_Is_Awaited_Wait_No_Deeper) {
   EXPECT_LT(deepest, kCalls / 2);
 }
 
+TEST_F(Waiting, Queued_Events_That_Let_Others_In_Are_Nested_No_Deeper_Than_The_Stack_Allows) {
+  constexpr int kQueued = 1000;
+  int calls = 0;
+  int depth = 0;
+  int deepest = 0;
+  const auto let_events_run = [&] {
+    ++calls;
+    deepest = std::max(deepest, ++depth);
+    desktop.Let_Events_Run();
+    --depth;
+  };
+  for (int i = 0; i < kQueued; ++i) {
+    QTimer::singleShot(1, &Main_View(), let_events_run);
+  }
+  ASSERT_TRUE(QTest::qWaitFor([&] { return calls == kQueued && depth == 0; }));
+  EXPECT_LT(deepest, 100);
+}
+
 TEST_F(Waiting, A_Short_List_Shows_No_Progress) {
   rows = 100;
   Export();
