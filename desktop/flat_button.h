@@ -8,7 +8,8 @@ class QPainter;
 
 namespace norvane {
 
-// Buttons without a frame, which look the same under every style of the desktop.
+// Buttons that paint themselves look the same under every style of the desktop. Here is what they
+// have in common, and those without a frame.
 
 /// The radius of their corners.
 inline constexpr qreal kButtonCorner = 5;
