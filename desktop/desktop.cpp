@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QThread>
 #include <QWindow>
+#include <clocale>
 #include <utility>
 
 #include "calc/conversions.h"
@@ -58,6 +59,9 @@ Desktop::Desktop(const std::filesystem::path& folder, const SpreadsheetMaker& ma
   // each part, size, state and palette. To paint a button anew takes some hundredths of a
   // millisecond.
   QPixmapCache::setCacheLimit(0);
+  // Qt has given C functions the user's locale. The program asks Qt for the decimal sign; what a
+  // library reads and writes by C functions is no text for the user, and has a point.
+  std::setlocale(LC_NUMERIC, "C");
 }
 
 Desktop::~Desktop() {

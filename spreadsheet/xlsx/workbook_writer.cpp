@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "c_locale.h"
 #include "spreadsheet/workbook.h"
 
 namespace norvane {
@@ -103,5 +104,7 @@ class WorkbookWriter {
 
 extern "C" NORVANE_EXPORTED bool norvane_write_workbook_1(const norvane::Workbook& book,
                                                           const std::filesystem::path& file) {
+  // The library prints numbers by the locale, and the format knows none.
+  const norvane::CLocale plain;
   return norvane::WorkbookWriter(book, file).Write();
 }
