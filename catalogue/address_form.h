@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "screen/form.h"
+#include "screen/model/form.h"
 
 namespace norvane {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "screen/field_array.h"
-#include "screen/form.h"
+#include "screen/model/field_array.h"
+#include "screen/model/form.h"
 
 namespace norvane {
 

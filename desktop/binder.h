@@ -4,8 +4,8 @@
 #include <QWidget>
 #include <functional>
 
-#include "frame/user_event.h"
-#include "screen/field_model.h"
+#include "screen/model/field_model.h"
+#include "screen/model/user_event.h"
 
 class QAbstractButton;
 class QComboBox;

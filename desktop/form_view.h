@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "desktop/binder.h"
-#include "screen/form.h"
+#include "screen/model/form.h"
 
 namespace norvane {
 

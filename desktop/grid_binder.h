@@ -3,7 +3,7 @@
 #include <QAbstractTableModel>
 
 #include "desktop/binder.h"
-#include "totals/grid.h"
+#include "screen/model/grid.h"
 
 namespace norvane {
 

@@ -5,7 +5,7 @@
 #include "driver/form_names.h"
 #include "driver/text.h"
 #include "frame/about_form.h"
-#include "totals/grid.h"
+#include "screen/model/grid.h"
 #include "totals/total_form.h"
 
 namespace norvane {

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "screen/form.h"
+#include "screen/model/form.h"
 
 namespace norvane {
 

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "screen/field_array.h"
-#include "screen/form.h"
+#include "screen/model/field_array.h"
+#include "screen/model/form.h"
 
 namespace norvane {
 

@@ -2,7 +2,7 @@
 
 #include "data/runtime_error.h"
 #include "frame/about_form.h"
-#include "frame/carry_out.h"
+#include "screen/model/carry_out.h"
 #include "screen/warmt.h"
 
 namespace norvane {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "frame/shared_state.h"
-#include "frame/user_event.h"
+#include "screen/model/user_event.h"
 
 namespace norvane {
 

@@ -8,8 +8,8 @@
 
 #include "calc/conversions.h"
 #include "platform/platform.h"
-#include "screen/desk.h"
-#include "screen/form_slot.h"
+#include "screen/model/desk.h"
+#include "screen/model/form_slot.h"
 
 namespace norvane {
 

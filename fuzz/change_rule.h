@@ -2,7 +2,7 @@
 
 #include <map>
 
-#include "screen/form.h"
+#include "screen/model/form.h"
 
 namespace norvane {
 

@@ -4,12 +4,12 @@
 
 #include "driver/form_names.h"
 #include "driver/text.h"
-#include "frame/carry_out.h"
 #include "host/code_page.h"
 #include "require.h"
+#include "screen/model/carry_out.h"
+#include "screen/model/grid.h"
 #include "screen/warmt.h"
 #include "screen_rules.h"
-#include "totals/grid.h"
 
 namespace norvane {
 namespace {

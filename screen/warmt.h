@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "calc/dew_point.h"
-#include "screen/field_array.h"
-#include "screen/form.h"
+#include "screen/model/field_array.h"
+#include "screen/model/form.h"
 
 namespace norvane {
 

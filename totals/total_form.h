@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "screen/form.h"
-#include "totals/grid.h"
+#include "screen/model/form.h"
+#include "screen/model/grid.h"
 
 namespace norvane {
 

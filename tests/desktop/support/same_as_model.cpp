@@ -14,7 +14,7 @@
 #include "desktop/desktop.h"
 #include "desktop/form_view.h"
 #include "host/code_page.h"
-#include "totals/grid.h"
+#include "screen/model/grid.h"
 
 namespace norvane {
 namespace {

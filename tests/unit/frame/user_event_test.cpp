@@ -1,4 +1,4 @@
-#include "frame/user_event.h"
+#include "screen/model/user_event.h"
 
 #include <gtest/gtest.h>
 

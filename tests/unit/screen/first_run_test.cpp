@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "../support/test_program.h"
+#include "../support/watch.h"
 
 namespace norvane {
 namespace {

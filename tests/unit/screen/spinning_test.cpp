@@ -7,6 +7,7 @@
 
 #include "../data/error_of.h"
 #include "../support/test_program.h"
+#include "../support/watch.h"
 
 namespace norvane {
 namespace {

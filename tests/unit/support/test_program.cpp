@@ -1,7 +1,5 @@
 #include "test_program.h"
 
-#include <utility>
-
 #include "frame/about_form.h"
 
 namespace norvane {
@@ -50,19 +48,6 @@ std::string Numbered_Language_File() {
     file += std::to_string(number) + ",t" + std::to_string(number) + "\r\n";
   }
   return file;
-}
-
-Watch::Watch(Form& form, FieldTold field_told, FormTold form_told)
-    : form_(form), field_told_(std::move(field_told)), form_told_(std::move(form_told)) {
-  form_.Set_Observer(this);
-}
-
-Watch::~Watch() { form_.Set_Observer(nullptr); }
-
-void Watch::Field_Changed(Field& field, Attribute attribute) { field_told_(field, attribute); }
-
-void Watch::Form_Changed(FormAttribute attribute) {
-  if (form_told_) form_told_(attribute);
 }
 
 }  // namespace norvane

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -43,25 +42,5 @@ class TestProgram {
 
 /// An English language file whose text n is "t" and the number.
 std::string Numbered_Language_File();
-
-/// Is told of every change of a form while it lives. The form has to live as long.
-class Watch : public FormObserver {
- public:
-  using FieldTold = std::function<void(const Field& field, Attribute attribute)>;
-  using FormTold = std::function<void(FormAttribute attribute)>;
-
-  Watch(Form& form, FieldTold field_told, FormTold form_told = {});
-  ~Watch() override;
-  Watch(const Watch&) = delete;
-  Watch& operator=(const Watch&) = delete;
-
-  void Field_Changed(Field& field, Attribute attribute) override;
-  void Form_Changed(FormAttribute attribute) override;
-
- private:
-  Form& form_;
-  FieldTold field_told_;
-  FormTold form_told_;
-};
 
 }  // namespace norvane

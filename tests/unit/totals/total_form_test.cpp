@@ -7,6 +7,7 @@
 #include <string>
 
 #include "../support/test_program.h"
+#include "../support/watch.h"
 
 namespace norvane {
 namespace {

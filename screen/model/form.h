@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "screen/field_model.h"
+#include "screen/model/field_model.h"
 
 namespace norvane {
 

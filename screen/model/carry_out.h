@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "frame/user_event.h"
+#include "screen/model/user_event.h"
 
 namespace norvane {
 

@@ -5,8 +5,8 @@
 #include <optional>
 #include <utility>
 
-#include "screen/desk.h"
-#include "screen/form.h"
+#include "screen/model/desk.h"
+#include "screen/model/form.h"
 
 namespace norvane {
 

@@ -1,9 +1,9 @@
-#include "screen/form.h"
+#include "screen/model/form.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "screen/desk.h"
+#include "screen/model/desk.h"
 
 namespace norvane {
 

@@ -1,8 +1,8 @@
-#include "screen/desk.h"
+#include "screen/model/desk.h"
 
 #include <gtest/gtest.h>
 
-#include "../support/test_program.h"
+#include "../../support/watch.h"
 #include "logged_form.h"
 
 namespace norvane {

@@ -1,4 +1,4 @@
-#include "totals/grid.h"
+#include "screen/model/grid.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "screen/field_model.h"
+#include "screen/model/field_model.h"
 
 #include <gtest/gtest.h>
 
@@ -7,10 +7,10 @@
 #include <utility>
 #include <vector>
 
-#include "../data/error_of.h"
-#include "../support/test_program.h"
+#include "../../data/error_of.h"
+#include "../../support/watch.h"
 #include "logged_form.h"
-#include "screen/field_array.h"
+#include "screen/model/field_array.h"
 
 namespace norvane {
 namespace {

@@ -1,10 +1,10 @@
-#include "screen/desk.h"
+#include "screen/model/desk.h"
 
 #include <algorithm>
 #include <utility>
 
 #include "data/runtime_error.h"
-#include "screen/form.h"
+#include "screen/model/form.h"
 
 namespace norvane {
 

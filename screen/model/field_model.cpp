@@ -1,11 +1,11 @@
-#include "screen/field_model.h"
+#include "screen/model/field_model.h"
 
 #include <algorithm>
 #include <utility>
 
 #include "calc/conversions.h"
 #include "data/runtime_error.h"
-#include "screen/form.h"
+#include "screen/model/form.h"
 
 namespace norvane {
 

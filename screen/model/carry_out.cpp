@@ -1,9 +1,9 @@
-#include "frame/carry_out.h"
+#include "screen/model/carry_out.h"
 
-#include "screen/desk.h"
-#include "screen/field_model.h"
-#include "screen/form.h"
-#include "totals/grid.h"
+#include "screen/model/desk.h"
+#include "screen/model/field_model.h"
+#include "screen/model/form.h"
+#include "screen/model/grid.h"
 
 namespace norvane {
 namespace {

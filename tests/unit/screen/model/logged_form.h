@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "platform/display.h"
-#include "screen/desk.h"
-#include "screen/form.h"
-#include "screen/form_slot.h"
+#include "screen/model/desk.h"
+#include "screen/model/form.h"
+#include "screen/model/form_slot.h"
 
 namespace norvane {
 

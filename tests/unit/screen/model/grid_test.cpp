@@ -1,14 +1,13 @@
-#include "totals/grid.h"
+#include "screen/model/grid.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "../data/error_of.h"
-#include "../support/test_program.h"
-#include "screen/desk.h"
-#include "screen/form.h"
+#include "../../data/error_of.h"
+#include "../../support/watch.h"
+#include "logged_form.h"
 
 namespace norvane {
 namespace {
@@ -23,8 +22,8 @@ class AGrid : public testing::Test {
     grid_.Add_Item("\tc");
   }
 
-  TestProgram program_;
-  Form form_{program_.State().desk, "Form", 1000, 1000};
+  LoggedDesk desk_;
+  Form form_{desk_.desk, "Form", 1000, 1000};
   Grid grid_{form_, "grid"};
 };
 
