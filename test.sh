@@ -34,7 +34,7 @@ cmake --preset fuzz -DNORVANE_WERROR=ON >/dev/null
 cmake --build --preset fuzz
 
 # CMake leaves out the tests of what it doesn't find.
-for label in quick desktop accessibility office faults soak; do
+for label in quick desktop accessibility office faults soak worlds; do
   ctest --test-dir build/release -N -L "^$label\$" | grep -q "Test *#" ||
     { echo "There are no tests of $label" >&2; exit 1; }
 done

@@ -5,8 +5,10 @@
 #include "desktop/desktop.h"
 #include "desktop/own_fonts.h"
 #include "frame/version.h"
+#include "host/failed_writes.h"
 
 int main(int argc, char** argv) {
+  norvane::Let_Writes_Fail();
   QApplication application(argc, argv);
   QApplication::setApplicationName(norvane::kTitle);
   QApplication::setDesktopFileName("norvane");

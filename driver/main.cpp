@@ -5,6 +5,7 @@
 
 #include "driver/headless_platform.h"
 #include "driver/script.h"
+#include "host/failed_writes.h"
 
 namespace {
 
@@ -21,6 +22,7 @@ char Decimal_Separator(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  norvane::Let_Writes_Fail();
   const std::vector<std::string> arguments(argv + 1, argv + argc);
   const char decimal_separator = arguments.empty() ? '\0' : Decimal_Separator(arguments);
   if (decimal_separator == 0 || !std::filesystem::is_directory(arguments[0])) {

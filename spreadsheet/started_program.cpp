@@ -10,6 +10,8 @@
 #include <sstream>
 #include <thread>
 
+#include "host/failed_writes.h"
+
 namespace norvane {
 namespace {
 
@@ -23,6 +25,7 @@ constexpr int kKilled = 128;  // and the signal's number, as shells say it
   setsid();
   sigset_t none;
   sigemptyset(&none);
+  Let_Writes_End_The_Process();
   sigprocmask(SIG_SETMASK, &none, nullptr);
   const int nothing = open("/dev/null", O_RDWR);
   for (int file = 0; file <= 2; ++file) dup2(nothing, file);

@@ -16,6 +16,7 @@
 #include "desktop/form_view.h"
 #include "desktop/tour/workbook_rows.h"
 #include "frame/version.h"
+#include "host/failed_writes.h"
 #include "spreadsheet/xlsx_spreadsheet.h"
 
 namespace {
@@ -236,6 +237,7 @@ void Print_Warning(QtMsgType, const QMessageLogContext&, const QString& text) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  norvane::Let_Writes_Fail();
   qInstallMessageHandler(Print_Warning);
   QApplication application(argc, argv);
   QApplication::setApplicationName(norvane::kTitle);

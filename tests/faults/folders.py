@@ -4,7 +4,6 @@ import contextlib
 import os
 import resource
 import shutil
-import signal
 import subprocess
 
 from program import PATIENCE, Skipped, expect, set_hours
@@ -52,7 +51,6 @@ def full_disk(program):
 
 def limited_size(program):
     def limit():
-        signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
         resource.setrlimit(resource.RLIMIT_FSIZE, (40, 40))
 
     folder = program.folder()

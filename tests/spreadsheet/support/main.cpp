@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <thread>
 
+#include "host/failed_writes.h"
 #include "user_office.h"
 
 namespace {
@@ -14,8 +15,9 @@ constexpr std::chrono::seconds kPatience{WATCHDOG_SECONDS};
 
 }  // namespace
 
-/// A test that hangs takes its office along.
+/// A test that hangs takes its office along. The start is that of the programs.
 int main(int argc, char** argv) {
+  norvane::Let_Writes_Fail();
   testing::InitGoogleTest(&argc, argv);
   std::thread([] {
     std::this_thread::sleep_for(kPatience);

@@ -4,12 +4,14 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <iterator>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "host/failed_writes.h"
 #include "test_folder.h"
 
 namespace norvane {
@@ -45,6 +47,13 @@ TEST(AStartedProgram, LivesInASessionOfItsOwnWithoutOurFiles) {
   const std::string files = folder.Bytes_Of("files");
   EXPECT_NE(files.find("/dev/null"), std::string::npos);
   EXPECT_EQ(files.find("ours"), std::string::npos);
+}
+
+TEST(AStartedProgram, HasTheSignalsBackThatTheProgramIgnores) {
+  Let_Writes_Fail();
+  EXPECT_EQ(Status_Of(*Start_Program("/bin/sh", {"-c", "kill -PIPE $$"})), 128 + SIGPIPE);
+  EXPECT_EQ(Status_Of(*Start_Program("/bin/sh", {"-c", "kill -XFSZ $$"})), 128 + SIGXFSZ);
+  Let_Writes_End_The_Process();
 }
 
 TEST(AStartedProgram, DoesNotHoldUpWhoStartsIt) {

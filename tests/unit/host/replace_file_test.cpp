@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <csignal>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -14,6 +13,7 @@
 
 #include "../support/child_process.h"
 #include "../support/test_folder.h"
+#include "host/failed_writes.h"
 
 namespace norvane {
 namespace {
@@ -98,7 +98,7 @@ TEST_F(ReplacedFile, StaysAsItIsWhenTheDiskHasNoRoom) {
   ChildProcess cramped([&] {
     const rlimit little{1000, 1000};  // bytes of a file
     setrlimit(RLIMIT_FSIZE, &little);
-    std::signal(SIGXFSZ, SIG_IGN);
+    Let_Writes_Fail();
     Replace_File(path_, [](const std::string&) { return std::string(1500, 'x'); });
   });
   ASSERT_TRUE(cramped.Wait());
