@@ -67,14 +67,18 @@ void On_Pipe(const CondensInput& input, double T_dew, CondensResult& result) {
 
 }  // namespace
 
-CondensResult Condensation(const CondensInput& input, const Locale& locale) {
+CondensResult Condensation(const CondensInput& input, float Alpha) {
   const double T_mean = To_Single((static_cast<double>(input.T_amb) + input.T_med) / 2.0);
   CondensResult result;
   result.lambda_T = To_Single(T_mean * kLambdaSlope + input.Lambda);
-  result.Alpha = Effective_Alpha(input.alpha_text, input.Sel_Size, locale);
+  result.Alpha = Alpha;
   const double T_dew = Trt_DauwPunt(input.T_amb, input.humidity);
   (input.Sel_Size == kSheet ? On_Sheet : On_Pipe)(input, T_dew, result);
   return result;
+}
+
+CondensResult Condensation(const CondensInput& input, const Locale& locale) {
+  return Condensation(input, Effective_Alpha(input.alpha_text, input.Sel_Size, locale));
 }
 
 }  // namespace norvane

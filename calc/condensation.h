@@ -31,4 +31,7 @@ struct CondensResult {
 /// value leaves the range of its type.
 CondensResult Condensation(const CondensInput& input, const Locale& locale);
 
+/// The same with the surface heat-transfer coefficient `Alpha`, W/m2K, whatever its text says.
+CondensResult Condensation(const CondensInput& input, float Alpha);
+
 }  // namespace norvane

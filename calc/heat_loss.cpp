@@ -36,7 +36,7 @@ HeatFlow Through_Pipe(double dT, double T_amb, double d_ins, float D_field, doub
           To_Single(Divide(dT * kPi, Divide(1.0, 2 * lambda_T) * L + Divide(1.0, Alpha * D_out)))};
 }
 
-Savings Saved(const HeatLossInput& input, float Q_bare, float Q_ins) {
+Savings Saved(const HeatFlowInput& input, float Q_bare, float Q_ins) {
   const double gain = static_cast<double>(Q_bare) - Q_ins;
   const double E_saved = To_Single(std::abs(gain) * kWattToKilojoulePerHour);
   const auto over_the_period = [&](double per_hour) {
@@ -65,13 +65,13 @@ float Effective_Alpha(const std::string& alpha_text, std::int16_t Sel_Size, cons
   return Default_Alpha(Sel_Size);
 }
 
-HeatLossResult Heat_Loss(const HeatLossInput& input, const Locale& locale) {
-  const double T_mean = To_Single(To_Int16(input.T_med + input.T_amb) / 2.0);
-  const double dT = To_Int16(input.T_med - input.T_amb);
+HeatLossResult Heat_Loss(const HeatFlowInput& input) {
+  const double T_mean = To_Single((input.T_med + input.T_amb) / 2.0);
+  const double dT = input.T_med - input.T_amb;
 
   HeatLossResult result;
   result.lambda_T = To_Single(T_mean * kLambdaSlope + input.Lambda);
-  result.Alpha = Effective_Alpha(input.alpha_text, input.Sel_Size, locale);
+  result.Alpha = input.Alpha;
   const HeatFlow flow =
       input.Sel_Size == kSheet
           ? Through_Sheet(dT, input.T_amb, input.d_ins, result.lambda_T, result.Alpha)
@@ -81,11 +81,29 @@ HeatLossResult Heat_Loss(const HeatLossInput& input, const Locale& locale) {
   result.Q_ins = flow.Q_ins;
 
   // A cold medium keeps its savings: there the absolute values tell what the insulation holds back.
-  const bool hot_medium = input.raw_T_med > input.raw_T_amb;
-  if (!hot_medium || static_cast<double>(flow.Q_bare) - flow.Q_ins >= 0) {
+  if (!input.hot_medium || static_cast<double>(flow.Q_bare) - flow.Q_ins >= 0) {
     result.savings = Saved(input, flow.Q_bare, flow.Q_ins);
   }
   return result;
+}
+
+HeatLossResult Heat_Loss(const HeatLossInput& input, const Locale& locale) {
+  // Sum and difference are 16-bit numbers too.
+  To_Int16(input.T_med + input.T_amb);
+  To_Int16(input.T_med - input.T_amb);
+  HeatFlowInput numbers;
+  numbers.T_med = input.T_med;
+  numbers.T_amb = input.T_amb;
+  numbers.d_ins = input.d_ins;
+  numbers.D_pipe = input.D_pipe;
+  numbers.Alpha = Effective_Alpha(input.alpha_text, input.Sel_Size, locale);
+  numbers.Sel_Size = input.Sel_Size;
+  numbers.Lambda = input.Lambda;
+  numbers.Hr_Day = input.Hr_Day;
+  numbers.Days = input.Days;
+  numbers.Mtrs = input.Mtrs;
+  numbers.hot_medium = input.raw_T_med > input.raw_T_amb;
+  return Heat_Loss(numbers);
 }
 
 }  // namespace norvane

@@ -22,6 +22,22 @@ inline constexpr double kLambdaSlope = 0.00015;
 /// What a pipe without a diameter counts as, in metres.
 inline constexpr float kEmptyDiameter = 10.0F;
 
+/// An object in numbers alone. Temperatures, hours, days and metres may have decimals.
+struct HeatFlowInput {
+  double T_med = 0;  ///< medium, degrees Celsius
+  double T_amb = 0;  ///< surroundings, degrees Celsius
+  float d_ins = 0;   ///< insulation thickness, m
+  float D_pipe = 0;  ///< outer diameter of the bare pipe, m; not read for a sheet
+  float Alpha = 0;   ///< surface heat-transfer coefficient, W/m2K
+  std::int16_t Sel_Size = kSteelPipe;
+  float Lambda = 0;         ///< conductivity at 0 degrees Celsius, W/mK
+  double Hr_Day = 0;        ///< operating hours a day
+  double Days = 0;          ///< operating days
+  double Mtrs = 0;          ///< m of pipe, m2 of sheet
+  bool hot_medium = false;  ///< the medium is the warmer side
+};
+
+/// An object as the main screen's fields hold it.
 struct HeatLossInput {
   std::int16_t T_med = 0;  ///< medium, degrees Celsius
   std::int16_t T_amb = 0;  ///< surroundings, degrees Celsius
@@ -68,7 +84,10 @@ float Effective_Alpha(const std::string& alpha_text, std::int16_t Sel_Size, cons
 /// Steady heat flow through a bare and an insulated cylinder or plane wall (the textbook relations
 /// for one layer with surface resistance, pi taken as 3.1415). The medium side's resistance is
 /// neglected, and the insulated pipe's surface is taken at its outer diameter.
-/// Throws `RuntimeError` 5, 6, 11 or 13 where a value leaves the range of its type.
+/// Throws `RuntimeError` 5, 6 or 11 where a value leaves the range of its type.
+HeatLossResult Heat_Loss(const HeatFlowInput& input);
+
+/// The same of whole degrees. Throws `RuntimeError` 13 for an alpha that is no number.
 HeatLossResult Heat_Loss(const HeatLossInput& input, const Locale& locale);
 
 }  // namespace norvane

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "calc/heat_loss.h"
+#include "calc/limits.h"
 #include "frame/language.h"
 #include "frame/settings_file.h"
 #include "frame/shared_state.h"
@@ -13,14 +14,6 @@ namespace {
 
 constexpr double kWidth = 6000;  // twips
 constexpr double kHeight = 3600;
-
-// From lambda at 0 degrees Celsius to lambda at 40, as the processor computes the difference: a
-// little less than 0.006.
-constexpr double kLambdaDifference = 0.038 - 0.032;
-
-// At 40 degrees Celsius, W/mK; both pass.
-constexpr float kLeastLambda = 0.015F;
-constexpr float kMostLambda = 0.06F;
 
 std::string With_Point(std::string text) {
   std::replace(text.begin(), text.end(), ',', '.');

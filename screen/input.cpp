@@ -1,13 +1,10 @@
+#include "calc/limits.h"
 #include "calc/sizes.h"
 #include "frame/shared_state.h"
-#include "screen/limits.h"
 #include "screen/warmt.h"
 
 namespace norvane {
 namespace {
-
-constexpr double kMostThickness = 100;  // mm
-constexpr double kMostLength = 10000;   // m or m2
 
 /// Handlers that may run inside each other; where they come to an end, three do.
 constexpr int kDeepest = 16;

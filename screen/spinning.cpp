@@ -1,10 +1,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "calc/limits.h"
 #include "calc/sizes.h"
 #include "data/runtime_error.h"
 #include "frame/shared_state.h"
-#include "screen/limits.h"
 #include "screen/warmt.h"
 
 namespace norvane {
