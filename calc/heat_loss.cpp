@@ -36,22 +36,33 @@ HeatFlow Through_Pipe(double dT, double T_amb, double d_ins, float D_field, doub
           To_Single(Divide(dT * kPi, Divide(1.0, 2 * lambda_T) * L + Divide(1.0, Alpha * D_out)))};
 }
 
-Savings Saved(const HeatFlowInput& input, float Q_bare, float Q_ins) {
-  const double gain = static_cast<double>(Q_bare) - Q_ins;
-  const double E_saved = To_Single(std::abs(gain) * kWattToKilojoulePerHour);
+/// Of a flow that needn't be a single.
+Fuels Fuels_Of(double heat_flow, const HeatFlowInput& input) {
+  const double heat = To_Single(heat_flow * kWattToKilojoulePerHour);
   const auto over_the_period = [&](double per_hour) {
     return per_hour * input.Hr_Day * input.Days * input.Mtrs;
   };
+  return {over_the_period(heat / kGasHeatingValue), over_the_period(heat / kOilHeatingValue),
+          To_Single(over_the_period(heat / kKilojoulePerKwh))};
+}
+
+Savings Saved(const HeatFlowInput& input, float Q_bare, float Q_ins) {
+  const double gain = static_cast<double>(Q_bare) - Q_ins;
+  const Fuels fuels = Fuels_Of(std::abs(gain), input);
   Savings savings;
   savings.Saving_Pct = Q_bare == 0 ? std::int16_t{0} : To_Int16(std::abs(gain / Q_bare) * 100.0);
   savings.difference = To_Single(std::abs(gain));
-  savings.gas = over_the_period(E_saved / kGasHeatingValue);
-  savings.oil = over_the_period(E_saved / kOilHeatingValue);
-  savings.electricity = To_Single(over_the_period(E_saved / kKilojoulePerKwh));
+  savings.gas = fuels.gas;
+  savings.oil = fuels.oil;
+  savings.electricity = fuels.electricity;
   return savings;
 }
 
 }  // namespace
+
+Fuels Fuels_For(float heat_flow, const HeatFlowInput& input) {
+  return Fuels_Of(std::abs(static_cast<double>(heat_flow)), input);
+}
 
 float Default_Alpha(std::int16_t Sel_Size) {
   return Sel_Size == kCopperTube || Sel_Size == kMetricPipe ? 10.0F : 12.5F;

@@ -53,6 +53,13 @@ struct HeatLossInput {
   std::int16_t Mtrs = 0;    ///< m of pipe, m2 of sheet
 };
 
+/// What makes the heat of a flow: in all hours, days and metres.
+struct Fuels {
+  double gas = 0;         ///< m3
+  double oil = 0;         ///< litres
+  float electricity = 0;  ///< kWh
+};
+
 /// What the insulation saves over all hours, days and metres; `difference` alone is for one metre.
 struct Savings {
   std::int16_t Saving_Pct = 0;
@@ -80,6 +87,9 @@ float Default_Alpha(std::int16_t Sel_Size);
 /// The surface heat-transfer coefficient in effect, W/m2K: the typed one when it is a number above
 /// 0, else the default of the kind. Throws `RuntimeError` 13 for a text that is no number.
 float Effective_Alpha(const std::string& alpha_text, std::int16_t Sel_Size, const Locale& locale);
+
+/// What makes the heat of a flow, W/m of pipe or W/m2 of sheet, through the object of `input`.
+Fuels Fuels_For(float heat_flow, const HeatFlowInput& input);
 
 /// Steady heat flow through a bare and an insulated cylinder or plane wall (the textbook relations
 /// for one layer with surface resistance, pi taken as 3.1415). The medium side's resistance is

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvane {
+
+/// Comma-separated values (RFC 4180): rows end at a line feed, with or without a carriage return;
+/// a field that begins with a quote ends at the next single quote and may hold separators, line
+/// ends and doubled quotes. A quote elsewhere is a letter, as in 2" pipe.
+struct CsvDialect {
+  char separator = ',';
+  char decimal = '.';
+};
+
+/// What a header tells: with semicolons between its names, numbers have a comma, as spreadsheet
+/// programs write them where the comma is the decimal sign; with commas or tabs, a point.
+CsvDialect Dialect_Of_Header(std::string_view header);
+
+/// How many bytes of `bytes` the first row takes, its line end included; npos when it doesn't end.
+std::size_t Length_Of_Row(std::string_view bytes, char separator);
+
+/// The fields of a row without its line end, as they stand, quotes included.
+void Split_Row(std::string_view row, char separator, std::vector<std::string_view>& fields);
+
+/// Whether a field that begins with a quote has no other one at its end.
+bool Is_Left_Open(std::string_view field);
+
+/// The text that a field stands for.
+std::string Field_Text(std::string_view field);
+
+/// Appends a text as a field, in quotes where it needs them.
+void Append_Field(std::string& row, std::string_view text, char separator);
+
+/// Reads a field, in quotes or not, that is a number and nothing else: blanks around it, a sign,
+/// digits with the decimal sign, an exponent. False for anything else, `number` as it was then.
+bool Read_Number(std::string_view field, char decimal, double& number);
+
+}  // namespace norvane

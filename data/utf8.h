@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace norvane {
+
+/// Whether the bytes are well-formed UTF-8 (RFC 3629), which has neither surrogates nor overlong
+/// forms.
+bool Is_Utf8(std::string_view bytes);
+
+/// The text with U+FFFD for every byte that belongs to no letter.
+std::string Mended_Utf8(std::string_view bytes);
+
+}  // namespace norvane

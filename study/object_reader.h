@@ -1,0 +1,45 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "study/object.h"
+#include "study/reason.h"
+
+namespace norvane {
+
+/// Reads the objects of a schedule's rows: which field belongs to which column is told by the
+/// header, in any order, and columns of other names are passed over.
+class ObjectReader {
+ public:
+  /// `header` holds the names as fields, `decimal` is the decimal sign of the rows. Columns that
+  /// the question doesn't ask for aren't read.
+  ObjectReader(std::span<const std::string_view> header, char decimal, Question question);
+
+  /// What makes the header unusable, in words: a required column that is missing, or one that
+  /// stands there twice. Empty when nothing does.
+  std::string Problem() const;
+  /// The names in the header that are no columns.
+  const std::vector<std::string>& Unknown() const { return unknown_; }
+
+  std::size_t Field_Count() const { return columns_.size(); }
+  /// The column of a field of the rows, null for one that isn't read.
+  const Column* Column_Of(std::size_t field) const { return columns_[field]; }
+
+  /// Reads the fields of a row into `object`, of its usual values to begin with.
+  std::optional<Reason> Read(std::span<const std::string_view> fields, Object& object) const;
+
+ private:
+  bool Has(const Column& column) const;
+
+  std::vector<const Column*> columns_;  // by field
+  std::vector<std::string> unknown_;
+  std::string twice_;
+  char decimal_;
+  Question question_;
+};
+
+}  // namespace norvane
