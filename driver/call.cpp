@@ -17,57 +17,66 @@
 #include "totals/total_form.h"
 
 namespace norvane {
-namespace {
 
 using Numbers = std::vector<double>;
 using Result = std::optional<std::string>;
 
+/// A procedure that takes so many numbers, or, without a number of them, a text.
 struct Procedure {
-  std::size_t arguments;
-  std::function<Result(Module1&, const Numbers&)> run;
+  std::optional<std::size_t> numbers;
+  std::function<Result(Module1&, const ProcedureCall&)> run;
 };
+
+namespace {
 
 const std::map<std::string, Procedure>& Procedures() {
   static const std::map<std::string, Procedure> procedures = {
       {"DauwPunt_export",
        {0,
-        [](Module1& m, const Numbers&) -> Result {
+        [](Module1& m, const ProcedureCall&) -> Result {
           DauwPunt_export(m);
           return std::nullopt;
         }}},
       {"Total.DetectExcel",
        {0,
-        [](Module1& m, const Numbers&) -> Result {
+        [](Module1& m, const ProcedureCall&) -> Result {
           m.forms.total->DetectExcel();
           return std::nullopt;
         }}},
       {"Color",
        {2,
-        [](Module1& m, const Numbers& n) -> Result {
-          m.forms.warmt->Color(To_Single(n[0]), To_Int16(n[1]));
+        [](Module1& m, const ProcedureCall& call) -> Result {
+          m.forms.warmt->Color(To_Single(call.numbers[0]), To_Int16(call.numbers[1]));
           return std::nullopt;
         }}},
       {"Inch",
        {2,
-        [](Module1&, const Numbers& n) -> Result { return Inch(To_Int16(n[0]), To_Int16(n[1])); }}},
+        [](Module1&, const ProcedureCall& call) -> Result {
+          return Inch(To_Int16(call.numbers[0]), To_Int16(call.numbers[1]));
+        }}},
       {"InchIso",
        {2,
-        [](Module1&, const Numbers& n) -> Result {
-          return InchIso(To_Int16(n[0]), To_Int16(n[1]));
+        [](Module1&, const ProcedureCall& call) -> Result {
+          return InchIso(To_Int16(call.numbers[0]), To_Int16(call.numbers[1]));
         }}},
       {"Trt_DauwPunt",
        {2,
-        [](Module1&, const Numbers& n) -> Result {
-          return Printed(Trt_DauwPunt(To_Single(n[0]), To_Single(n[1])));
+        [](Module1&, const ProcedureCall& call) -> Result {
+          return Printed(Trt_DauwPunt(To_Single(call.numbers[0]), To_Single(call.numbers[1])));
         }}},
       {"Fahr",
        {1,
-        [](Module1& m, const Numbers& n) -> Result { return Fahr(To_Int16(n[0]), m.Locale()); }}},
+        [](Module1& m, const ProcedureCall& call) -> Result {
+          return Fahr(To_Int16(call.numbers[0]), m.Locale());
+        }}},
+      {"Val",
+       {std::nullopt,
+        [](Module1&, const ProcedureCall& call) -> Result { return Printed(Val(call.text)); }}},
   };
   return procedures;
 }
 
-Numbers Parse_Arguments(const std::string& list) {
+Numbers Parse_Numbers(const std::string& list) {
   Numbers numbers;
   const char* at = list.data();
   const char* const end = at + list.size();
@@ -83,16 +92,20 @@ Numbers Parse_Arguments(const std::string& list) {
 
 }  // namespace
 
-std::optional<std::string> Call(Module1& module1, const std::string& line) {
-  const std::size_t blank = line.find(' ');
-  const std::string name = line.substr(0, blank);
-  const std::string rest = blank == std::string::npos ? "" : line.substr(blank + 1);
-  if (name == "Val") return Printed(Val(Unescape(rest)));
-  const auto procedure = Procedures().find(name);
-  if (procedure == Procedures().end()) throw ScriptError();
-  const Numbers arguments = Parse_Arguments(rest);
-  if (arguments.size() != procedure->second.arguments) throw ScriptError();
-  return procedure->second.run(module1, arguments);
+ProcedureCall Parse_Call(const std::string& text) {
+  const std::size_t blank = text.find(' ');
+  const std::string rest = blank == std::string::npos ? "" : text.substr(blank + 1);
+  const auto named = Procedures().find(text.substr(0, blank));
+  if (named == Procedures().end()) throw ScriptError();
+  const Procedure& procedure = named->second;
+  if (!procedure.numbers) return {&procedure, Unescape(rest), {}};
+  ProcedureCall call{&procedure, "", Parse_Numbers(rest)};
+  if (call.numbers.size() != procedure.numbers) throw ScriptError();
+  return call;
+}
+
+std::optional<std::string> Run_Call(Module1& module1, const ProcedureCall& call) {
+  return call.procedure->run(module1, call);
 }
 
 }  // namespace norvane

@@ -2,14 +2,18 @@
 
 namespace norvane {
 
-FormReference* Form_Named(Module1& module1, const std::string& name) {
-  Forms& forms = module1.forms;
-  const std::pair<const char*, FormReference*> all[] = {
-      {"Warmt", &forms.warmt}, {"About", &forms.about},     {"Settings", &forms.settings},
-      {"Lang", &forms.lang},   {"Address", &forms.address}, {"Total", &forms.total},
-  };
-  for (const auto& [form_name, form] : all) {
-    if (name == form_name) return form;
+const std::array<NamedForm, 6> kNamedForms = {{
+    {"Warmt", [](Forms& forms) -> FormReference& { return forms.warmt; }},
+    {"About", [](Forms& forms) -> FormReference& { return forms.about; }},
+    {"Settings", [](Forms& forms) -> FormReference& { return forms.settings; }},
+    {"Lang", [](Forms& forms) -> FormReference& { return forms.lang; }},
+    {"Address", [](Forms& forms) -> FormReference& { return forms.address; }},
+    {"Total", [](Forms& forms) -> FormReference& { return forms.total; }},
+}};
+
+const NamedForm* Form_Named(const std::string& name) {
+  for (const NamedForm& form : kNamedForms) {
+    if (name == form.name) return &form;
   }
   return nullptr;
 }
@@ -21,12 +25,12 @@ std::string Name_Of(const Field& field) {
   return name;
 }
 
-FormAndRest Resolve_Form(Module1& module1, std::vector<NamePart> parts) {
-  if (FormReference* form = Form_Named(module1, parts.front().word)) {
+FormAndRest Split_Form(std::vector<NamePart> parts) {
+  if (const NamedForm* form = Form_Named(parts.front().word)) {
     parts.erase(parts.begin());
     return {*form, true, std::move(parts)};
   }
-  return {module1.forms.warmt, false, std::move(parts)};
+  return {kNamedForms.front(), false, std::move(parts)};
 }
 
 Field& Resolve_Field(const Form& form, const NamePart& part) {

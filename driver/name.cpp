@@ -1,12 +1,14 @@
 #include "driver/name.h"
 
-#include <cctype>
 #include <charconv>
 
 namespace norvane {
 namespace {
 
-bool Is_Letter(char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_'; }
+// Not the standard library's classes, which ask the locale of the process.
+bool Is_Letter(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+}
 
 std::vector<int> Parse_Numbers(const std::string& list) {
   std::vector<int> numbers;

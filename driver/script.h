@@ -5,7 +5,7 @@
 #include <string>
 
 #include "driver/headless_platform.h"
-#include "driver/name.h"
+#include "driver/script_line.h"
 #include "frame/program.h"
 
 namespace norvane {
@@ -23,23 +23,19 @@ class Script {
 
  private:
   void Play_Lines(const std::function<bool()>& goes_on);
-  void Play_Line(const std::string& line);
-  bool Play_Set_Up(const std::string& verb, const std::string& rest);
-  bool Play_Clock(const std::string& verb, const std::string& rest);
-  void Play_Event(const std::string& verb, const std::string& rest);
-  void Play_On_Field(const std::string& verb, const std::string& name, const std::string& rest);
-
+  void Carry_Out(const ScriptLine& line);
+  bool Set_Up(const ScriptLine& line);
   void Start();
   void Tick(int ticks);
-  void Get(const std::string& name);
-  void Dump(const std::string& name);
+  void Get(const ScriptLine& line);
+  void Dump(const ScriptLine& line);
+  void Call(const ScriptLine& line);
+  void Act(const ScriptLine& line);
   void Type(const UserEvent& where, const std::string& letters);
   void Erase(const UserEvent& where, int letters);
   /// Plays an event and prints why it was refused, if it was. False then, and when it ended the
   /// program.
-  bool Play_Event(const UserEvent& event);
-  /// Prints the line of a refusal when the program has ended.
-  bool Refuse_After_End();
+  bool Send(const UserEvent& event);
 
   HeadlessPlatform& platform_;
   std::istream& in_;

@@ -161,17 +161,16 @@ std::optional<std::string> Text_Of(const Module1& module1, const Field& field) {
   return std::nullopt;
 }
 
-std::string Value_Of(Module1& module1, const std::string& name) {
-  const std::vector<NamePart> parts = Parse_Name(name);
+std::string Value_Of(Module1& module1, const std::vector<NamePart>& parts) {
   if (parts.size() == 2 && parts[0].word == "Loaded") {
-    const FormReference* form = Form_Named(module1, parts[1].word);
+    const NamedForm* form = Form_Named(parts[1].word);
     if (form == nullptr) throw ScriptError();
-    return Printed(form->Loaded());
+    return Printed(form->of(module1.forms).Loaded());
   }
   if (auto value = State_Value(module1, parts)) return *value;
-  FormAndRest resolved = Resolve_Form(module1, parts);
+  FormAndRest resolved = Split_Form(parts);
   if (resolved.rest.empty()) throw ScriptError();
-  const Form& form = resolved.form.Get();
+  const Form& form = resolved.form.of(module1.forms).Get();
   const NamePart& first = resolved.rest.front();
   if (resolved.named && resolved.rest.size() == 1 && first.numbers.empty()) {
     if (auto value = Form_Value(module1, form, first.word)) return *value;

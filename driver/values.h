@@ -10,7 +10,7 @@ namespace norvane {
 
 /// The printed value of a name: an attribute of a field or form, or a part of the state. Naming a
 /// form that isn't loaded loads it. Throws `ScriptError` for a name that doesn't exist.
-std::string Value_Of(Module1& module1, const std::string& name);
+std::string Value_Of(Module1& module1, const std::vector<NamePart>& parts);
 
 /// What a field shows as text: its text, its caption or the chosen item; nothing for other kinds.
 std::optional<std::string> Text_Of(const Module1& module1, const Field& field);

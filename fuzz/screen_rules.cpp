@@ -138,9 +138,8 @@ void Require_Desk(Module1& module1) {
     Require(modal->Shown() && modal == desk.Active(), "a modal form lies in front");
   }
   if (Field* focus = desk.Focus()) {
-    FormReference* form = Form_Named(module1, focus->form().Name());
-    Require(form != nullptr && form->Loaded() && &form->Get() == &focus->form(),
-            "the focus is on a form that is there");
+    FormReference& form = Form_Named(focus->form().Name())->of(module1.forms);
+    Require(form.Loaded() && &form.Get() == &focus->form(), "the focus is on a form that is there");
   }
 }
 
@@ -177,8 +176,8 @@ void Require_Rules(Module1& module1) {
 std::string Digest(Module1& module1) {
   std::string digest;
   const auto add = [&](const std::string& text) { digest += text + '\n'; };
-  for (const char* name : {"Warmt", "About", "Settings", "Lang", "Address", "Total"}) {
-    FormReference& reference = *Form_Named(module1, name);
+  for (const NamedForm& named : kNamedForms) {
+    FormReference& reference = named.of(module1.forms);
     if (!reference.Loaded()) continue;
     Form& form = reference.Get();
     add(form.Name() + form.Caption() + form.Tag + Printed(form.Shown()) +

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "driver/form_names.h"
+#include "driver/script_line.h"
 #include "driver/text.h"
 #include "host/code_page.h"
 #include "require.h"
@@ -29,12 +30,6 @@ constexpr const char* kSettings[] = {
 constexpr UserAction kWithField[] = {
     UserAction::kSetText, UserAction::kClick,  UserAction::kDown,    UserAction::kUp,
     UserAction::kHover,   UserAction::kChoose, UserAction::kPickTab, UserAction::kPickRows};
-
-const char* Verb_Of(UserAction action) {
-  constexpr const char* kVerbs[] = {"set", "click", "down",     "up",     "hover", "choose",
-                                    "tab", "rows",  "activate", "resize", "close"};
-  return kVerbs[static_cast<std::size_t>(action)];
-}
 
 }  // namespace
 
@@ -146,8 +141,8 @@ Form* User::Form_In_Front() { return run_.State().desk.Active(); }
 
 Form* User::Any_Form() {
   std::vector<Form*> loaded;
-  for (const char* name : {"Warmt", "About", "Settings", "Lang", "Address", "Total"}) {
-    FormReference& form = *Form_Named(run_.State(), name);
+  for (const NamedForm& named : kNamedForms) {
+    FormReference& form = named.of(run_.State().forms);
     if (form.Loaded()) loaded.push_back(&form.Get());
   }
   return loaded.empty() ? nullptr : loaded[input_.Below(loaded.size())];
@@ -199,18 +194,7 @@ std::string User::Text_For(const TextField& field) {
 
 void User::Play(const UserEvent& event) {
   Desk& desk = run_.State().desk;
-  std::string line = Verb_Of(event.action);
-  line += ' ' + (event.field != nullptr ? Name_Of(*event.field) : event.form.Name());
-  if (event.action == UserAction::kSetText) {
-    line += ' ' + Shown(event.text, event.field ? Charset_Of(run_.State(), *event.field) : 0);
-  } else if (event.action == UserAction::kResize) {
-    line += ' ' + std::to_string(int(event.width)) + ' ' + std::to_string(int(event.height));
-  } else if (event.action == UserAction::kChoose || event.action == UserAction::kPickTab) {
-    line += ' ' + std::to_string(event.first);
-  } else if (event.action == UserAction::kPickRows) {
-    line += ' ' + std::to_string(event.first) + ' ' + std::to_string(event.last);
-  }
-  Tell(line);
+  Tell(Line_Of(event, event.field ? Charset_Of(run_.State(), *event.field) : 0));
 
   const auto* text = dynamic_cast<const TextField*>(event.field);
   const bool in_front = desk.Active() == &event.form;

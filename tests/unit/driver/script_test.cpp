@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <locale>
 #include <sstream>
 #include <string>
 
@@ -114,6 +115,22 @@ TEST_F(AScript, StopsAtALineThatItDoesNotUnderstandInsideAModalForm) {
   EXPECT_EQ(Played("start\nclick cmdToolBar4(0)\njump\nget Mtrs\n"), kNotUnderstood);
   EXPECT_EQ(out_, "");
   EXPECT_NE(errors_.find('3'), std::string::npos) << errors_;
+}
+
+TEST_F(AScript, CountsItsLinesInPlainDigitsUnderEveryLocale) {
+  class Groups : public std::numpunct<char> {
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+  };
+  const std::locale before = std::locale::global(std::locale(std::locale::classic(), new Groups));
+  EXPECT_EQ(Played(std::string(1233, '\n') + "jump\n"), kNotUnderstood);
+  std::locale::global(before);
+  EXPECT_EQ(errors_, "line 1234 is not understood: jump\n");
+}
+
+TEST_F(AScript, DoesNotUnderstandALineAfterTheEndEither) {
+  EXPECT_EQ(Played("start\nclose Warmt\nchoose Combo1 x\n"), kNotUnderstood);
+  EXPECT_EQ(out_, "ended\n");
 }
 
 TEST_F(AScript, DoesNotUnderstandNamesThatDoNotExist) {
