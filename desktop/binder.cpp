@@ -4,9 +4,11 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QTimer>
+#include <utility>
 
 #include "desktop/desktop.h"
 #include "desktop/form_view.h"
@@ -70,18 +72,36 @@ void Binder::Play(UserAction action, int first, int last) {
 
 TextBinder::TextBinder(FormView& view, TextField& field, NumberEdit& edit, Field* spin_pair)
     : Binder(view, field, edit), field_(field), edit_(edit) {
-  QObject::connect(&edit, &QLineEdit::textEdited, &edit, [this](const QString& text) {
-    // Shown again in any case: what the program refuses or rewrites leaves no trace.
-    Binder::view().Field_Changed(field_, Attribute::kText);
-    Binder::view().Play_Text(field_, text);
-  });
+  QObject::connect(&edit, &QLineEdit::textEdited, &edit,
+                   [this](const QString& text) { Tell_By_Keys(text); });
+  QObject::connect(&edit, &QLineEdit::textChanged, &edit,
+                   [this](const QString& text) { Tell_By_Other_Ways(text); });
   if (spin_pair == nullptr) return;
   QObject::connect(&edit, &NumberEdit::Stepped, &edit, [this, spin_pair](int direction) {
     Binder::view().Play(direction < 0 ? UserAction::kDown : UserAction::kUp, *spin_pair);
   });
 }
 
+void TextBinder::Tell(const QString& text) {
+  // Shown again in any case: what the program refuses or rewrites leaves no trace.
+  view().Field_Changed(field_, Attribute::kText);
+  view().Play_Text(field_, text);
+}
+
+void TextBinder::Tell_By_Keys(const QString& text) {
+  Tell(text);
+  told_ = true;  // the same change is reported a second time
+}
+
+void TextBinder::Tell_By_Other_Ways(const QString& text) {
+  if (showing_ || std::exchange(told_, false)) return;
+  // Later: whoever set the text waits for it to be set, and not for a message that it may cause.
+  QMetaObject::invokeMethod(
+      &edit_, [this, text] { Tell(text); }, Qt::QueuedConnection);
+}
+
 void TextBinder::Show_Field() {
+  const QScopedValueRollback<bool> showing(showing_, true);
   Show_Font();
   edit_.setReadOnly(field_.Locked());
   Show_Ground(edit_, QPalette::Base, QPalette::Text, field_.BackColor(), true);
@@ -98,15 +118,9 @@ CaptionBinder::CaptionBinder(FormView& view, CaptionField& field, QLabel& label)
 }
 
 void CaptionBinder::Show_Field() {
-  constexpr int kSymbolCharset = 2;
   const bool opaque = field_.BackStyle() == BackStyle::kOpaque;
   label_.setAutoFillBackground(opaque);
   Show_Ground(label_, QPalette::Window, QPalette::WindowText, field_.BackColor(), opaque);
-  if (field_.Font().charset == kSymbolCharset) {
-    // A symbol font shows Greek letters in the places of the Latin ones.
-    label_.setText(field_.Caption() == "l" ? QString(QChar(0x3BB)) : QString(QChar(0x3B1)));
-    return;
-  }
   Show_Font();
   // Only the heading of another widget can have a letter; elsewhere "&" is an ordinary sign.
   const bool heading = label_.buddy() != nullptr;
@@ -117,6 +131,15 @@ void CaptionBinder::Show_Caption(const QString& caption) { label_.setText(captio
 
 bool CaptionBinder::Has_Content() const {
   return field_.BackStyle() == BackStyle::kOpaque || !field_.Caption().empty();
+}
+
+SymbolBinder::SymbolBinder(FormView& view, CaptionField& field, QLabel& label)
+    : Binder(view, field, label), field_(field), label_(label) {
+  label.setTextFormat(Qt::PlainText);
+}
+
+void SymbolBinder::Show_Field() {
+  label_.setText(field_.Caption() == "l" ? QString(QChar(0x3BB)) : QString(QChar(0x3B1)));
 }
 
 NumberBinder::NumberBinder(FormView& view, CaptionField& field, NumberLabel& label)
@@ -230,8 +253,11 @@ void TabsBinder::Show_Field() {
 TimerBinder::TimerBinder(FormView& view, TickTimer& field, QTimer& timer)
     : Binder(view, field, view), field_(field), timer_(timer) {
   timer.setInterval(TickTimer::kInterval);
-  QObject::connect(&timer, &QTimer::timeout, &timer,
-                   [this] { Binder::view().desktop().Tick(field_); });
+  timer.setSingleShot(true);
+  QObject::connect(&timer, &QTimer::timeout, &timer, [this] {
+    timer_.start();
+    Binder::view().desktop().Tick(field_);
+  });
 }
 
 void TimerBinder::Let_Go() { timer_.stop(); }

@@ -61,7 +61,8 @@ class Binder {
   bool changed_ = false;
 };
 
-/// A text field as a line edit. The arrow keys are clicks on the spin pair beside it.
+/// A text field as a line edit. The arrow keys are clicks on the spin pair beside it. A text comes
+/// by the keys, or as a whole by other ways, such as a screen reader's.
 class TextBinder : public Binder {
  public:
   TextBinder(FormView& view, TextField& field, NumberEdit& edit, Field* spin_pair = nullptr);
@@ -70,8 +71,14 @@ class TextBinder : public Binder {
   void Show_Field() override;
 
  private:
+  void Tell(const QString& text);
+  void Tell_By_Keys(const QString& text);
+  void Tell_By_Other_Ways(const QString& text);
+
   TextField& field_;
   NumberEdit& edit_;
+  bool showing_ = false;  ///< the text changes by what the program holds
+  bool told_ = false;     ///< by what the program has been told already
 };
 
 /// A caption field as a label.
@@ -85,6 +92,19 @@ class CaptionBinder : public Binder {
   void Show_Field() override;
   bool Has_Content() const override;
   virtual void Show_Caption(const QString& caption);
+
+ private:
+  CaptionField& field_;
+  QLabel& label_;
+};
+
+/// A letter in a symbol font, which shows Greek ones in the places of the Latin.
+class SymbolBinder : public Binder {
+ public:
+  SymbolBinder(FormView& view, CaptionField& field, QLabel& label);
+
+ protected:
+  void Show_Field() override;
 
  private:
   CaptionField& field_;
@@ -196,7 +216,8 @@ class TabsBinder : public Binder {
   QTabBar& bar_;
 };
 
-/// A timer of the program; the widget is the form's window.
+/// A timer of the program; the widget is the form's window. A tick that had to wait comes at once,
+/// and the next one a whole interval later.
 class TimerBinder : public Binder {
  public:
   TimerBinder(FormView& view, TickTimer& field, QTimer& timer);

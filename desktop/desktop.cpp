@@ -173,7 +173,14 @@ void Desktop::After_Program_Call() {
   Show_Changes();
 }
 
+void Desktop::Decode_Anew_At_Need() {
+  const int charset = Current_Charset();
+  if (std::exchange(shown_charset_, charset) == charset) return;
+  for (const auto& [form, view] : views_) view->Decode_Anew();
+}
+
 void Desktop::Show_Changes() {
+  Decode_Anew_At_Need();
   // Showing a window may load or unload nothing, but it may report events that do.
   std::vector<FormView*> views;
   for (const auto& [form, view] : views_) views.push_back(view);
@@ -181,8 +188,11 @@ void Desktop::Show_Changes() {
 }
 
 int Desktop::Current_Charset() const {
+  return Charset_Of(static_cast<std::size_t>(program_.State().Lang_Index));
+}
+
+int Desktop::Charset_Of(std::size_t slot) const {
   const Module1& module1 = program_.State();
-  const auto slot = static_cast<std::size_t>(module1.Lang_Index);
   const auto& charset = module1.languages.Lang_Charset[slot];
   try {
     return charset ? To_Int16(To_Number(*charset, module1.Locale())) : 0;
@@ -193,6 +203,17 @@ int Desktop::Current_Charset() const {
 
 QString Desktop::Text(const std::string& bytes) const {
   return QString::fromStdString(To_Utf8(bytes, Current_Charset()));
+}
+
+QStringList Desktop::In_All_Languages(int text) const {
+  const LanguageTables& languages = program_.State().languages;
+  QStringList texts;
+  for (std::size_t slot = 0; slot < LanguageTables::kSlots; ++slot) {
+    if (!languages.Lang_Code[slot]) continue;
+    const std::string& bytes = languages.Lang_Text[slot][static_cast<std::size_t>(text)];
+    texts << QString::fromStdString(To_Utf8(bytes, Charset_Of(slot)));
+  }
+  return texts;
 }
 
 QWidget* Desktop::Front_Window() const {

@@ -2,6 +2,7 @@
 
 #include <QEventLoop>
 #include <QString>
+#include <QStringList>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -62,6 +63,8 @@ class Desktop : public Platform, public Display {
   /// The character set of texts that have none of their own.
   int Current_Charset() const;
   QString Text(const std::string& bytes) const;
+  /// A text of the program as each language that was found has it.
+  QStringList In_All_Languages(int text) const;
 
  private:
   /// Calls the program and shows what came of it. Calls are nested where the program lets events
@@ -71,6 +74,8 @@ class Desktop : public Platform, public Display {
   /// A window that was just shown can paint only when the display server has exposed it.
   void Wait_For_Exposure();
   QWidget* Front_Window() const;
+  int Charset_Of(std::size_t slot) const;
+  void Decode_Anew_At_Need();
 
   DiskFiles files_;
   Busy busy_;
@@ -78,6 +83,7 @@ class Desktop : public Platform, public Display {
   std::unordered_map<const Form*, FormView*> views_;
   std::vector<FormView*> unloaded_;  ///< hidden, and without their forms
   int calls_ = 0;
+  int shown_charset_ = 0;
   int yields_ = 0;  ///< calls of Let_Events_Run under way
   Program program_;
 };

@@ -98,6 +98,12 @@ void FormView::Form_Changed(FormAttribute attribute) {
   }
 }
 
+void FormView::Decode_Anew() {
+  for (const auto& binder : binders_) Note_Change(*binder);
+  letters_outdated_ = true;
+  form_changed_ = true;
+}
+
 void FormView::Show_Changes() {
   if (form_ == nullptr) return;
   if (letters_outdated_) Choose_Letters_Anew();

@@ -25,6 +25,8 @@ class FormView : public QWidget, public FormObserver {
 
   /// Brings window and widgets up to date.
   void Show_Changes();
+  /// Bytes that belong to no font's character set are other letters from now on.
+  void Decode_Anew();
   /// The window alone takes the user's events until its form is hidden; `loop` ends then.
   void Show_Modal(QEventLoop& loop);
   void Leave_Modal() { modal_loop_ = nullptr; }

@@ -28,11 +28,6 @@ void NumberEdit::keyPressEvent(QKeyEvent* event) {
     emit Stepped(event->key() == Qt::Key_Up ? 1 : -1);
     return;
   }
-  if (event->modifiers().testFlag(Qt::KeypadModifier) && event->text() == QLatin1String(",")) {
-    QKeyEvent point(event->type(), Qt::Key_Period, event->modifiers(), QStringLiteral("."));
-    QLineEdit::keyPressEvent(&point);
-    return;
-  }
   QLineEdit::keyPressEvent(event);
 }
 

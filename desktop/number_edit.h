@@ -5,8 +5,7 @@
 namespace norvane {
 
 /// A line edit for numbers: right-aligned, selected whole by a double click, stepped by the arrow
-/// keys and, with the focus, by the wheel. The number pad's decimal key types the point, which is
-/// the sign that the fields read.
+/// keys and, with the focus, by the wheel.
 class NumberEdit : public QLineEdit {
   Q_OBJECT
 

@@ -38,7 +38,11 @@ ResultCard::ResultCard(FormView& view, Warmt& warmt) : view_(view), warmt_(warmt
 }
 
 void ResultCard::Add_Letters(QGridLayout& grid) {
-  for (const int row : {0, 1}) Add_Label(grid, row, kLetterColumn, warmt_.Label2(row));
+  for (const int row : {0, 1}) {
+    auto* letter = new QLabel;
+    grid.addWidget(letter, row, kLetterColumn);
+    view_.Bind<SymbolBinder>(warmt_.Label2(row), *letter);
+  }
 }
 
 QLabel* ResultCard::Add_Label(QGridLayout& grid, int place, int column, CaptionField& field) {

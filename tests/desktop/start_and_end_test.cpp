@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QTest>
+#include <QThread>
 
 #include "window_test.h"
 
@@ -43,6 +44,17 @@ TEST_F(Start, The_Splash_Screen_Hands_Over_At_The_Third_Tick_Of_Its_Timer) {
   Expect_Same_As_Model(Main_View());
   QTest::qWait(1200);
   EXPECT_EQ(splash.Tick_Count, 3);
+}
+
+TEST_F(Start, After_A_Stall_One_Tick_Comes_At_Once_And_The_Next_A_Second_Later) {
+  desktop.Start();
+  About& splash = *State().forms.about;
+  QThread::msleep(1400);
+  QElapsedTimer clock;
+  clock.start();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return splash.Tick_Count == 1; }, 500));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return splash.Tick_Count == 2; }, 3000));
+  EXPECT_GE(clock.elapsed(), 950);
 }
 
 TEST_F(Start, Without_Any_Language_The_Program_Says_So_And_Ends) {

@@ -230,13 +230,20 @@ TEST_F(Typing, The_Letters_Around_The_Caret_Can_Be_Taken_Away) {
   EXPECT_EQ(Shown(Screen().txtT(0)), "0");
 }
 
-TEST_F(Typing, The_Decimal_Key_Of_The_Number_Pad_Types_A_Point) {
+TEST_F(Typing, The_Decimal_Key_Of_The_Number_Pad_Types_What_It_Says) {
   Mark(Screen().txtmtrs);
   Type("2");
-  Press(Qt::Key_Comma, Qt::KeypadModifier);
+  Press(Qt::Key_Period, Qt::KeypadModifier);
   Type("5");
   EXPECT_EQ(Shown(Screen().txtmtrs), "2.5");
   EXPECT_EQ(State().Mtrs, 2);
+
+  Mark(Screen().txtmtrs);
+  Type("12");
+  Press(Qt::Key_Comma, Qt::KeypadModifier);
+  Type("5");
+  EXPECT_EQ(Shown(Screen().txtmtrs), "12,5");
+  EXPECT_EQ(State().Mtrs, 12);
 }
 
 /// The same on a system that writes decimals with a comma.
@@ -260,13 +267,13 @@ TEST_F(TypingWithCommas, A_Pasted_Fraction_Reads_Back_As_Its_Integer_Part) {
   EXPECT_EQ(Shown(Screen().txtT(0)), "12");
 }
 
-TEST_F(TypingWithCommas, The_Decimal_Key_Of_The_Number_Pad_Types_The_Point_That_Is_Read) {
+TEST_F(TypingWithCommas, The_Comma_Of_The_Number_Pad_Ends_A_Number_As_Any_Comma_Does) {
   Mark(Screen().txtmtrs);
   Type("3");
   Press(Qt::Key_Comma, Qt::KeypadModifier);
   Type("5");
-  EXPECT_EQ(Shown(Screen().txtmtrs), "3.5");
-  EXPECT_EQ(State().Mtrs, 4);
+  EXPECT_EQ(Shown(Screen().txtmtrs), "3,5");
+  EXPECT_EQ(State().Mtrs, 3);
 }
 
 }  // namespace

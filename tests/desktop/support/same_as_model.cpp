@@ -86,14 +86,13 @@ void Comparison::Compare_Text(const TextField& field, const QWidget& widget) con
 }
 
 void Comparison::Compare_Caption(const CaptionField& field, const QWidget& widget) const {
-  constexpr int kSymbolCharset = 2;
   if (const auto* button = dynamic_cast<const QAbstractButton*>(&widget)) {
     EXPECT_EQ(As_Read(button->text()).toStdString(), Decoded(field, field.Caption()));
     Compare_Font(field, widget);
     return;
   }
   const auto& label = dynamic_cast<const QLabel&>(widget);
-  if (field.Font().charset == kSymbolCharset) {
+  if (field.Font().name == "Symbol") {
     EXPECT_EQ(label.text(), field.Caption() == "l" ? QString(u'\u03BB') : QString(u'\u03B1'));
     return;
   }
