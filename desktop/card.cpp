@@ -27,10 +27,7 @@ QColor Ground(const QPalette& palette) {
 
 }  // namespace
 
-Card::Card(QWidget* parent) : QFrame(parent) {
-  setMouseTracking(true);
-  setContentsMargins(4, 2, 4, 2);
-}
+Card::Card(QWidget* parent) : QFrame(parent) { setContentsMargins(4, 2, 4, 2); }
 
 void Card::paintEvent(QPaintEvent* event) {
   constexpr int kRadius = 6;

@@ -13,6 +13,8 @@ class Card : public QFrame {
   explicit Card(QWidget* parent = nullptr);
 
  protected:
+  /// The mouse on a card isn't on the bare form.
+  void mouseMoveEvent(QMouseEvent*) override {}
   void paintEvent(QPaintEvent* event) override;
 };
 

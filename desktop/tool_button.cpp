@@ -1,7 +1,7 @@
 #include "desktop/tool_button.h"
 
-#include <QEnterEvent>
 #include <QFocusEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include "desktop/colours.h"
@@ -23,6 +23,7 @@ ToolButton::ToolButton(ToolSign sign, QWidget* parent) : QAbstractButton(parent)
   setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   setAttribute(Qt::WA_Hover);
+  setMouseTracking(true);
 }
 
 QSize ToolButton::sizeHint() const { return {kWidth, kHeight}; }
@@ -47,15 +48,25 @@ void ToolButton::paintEvent(QPaintEvent*) {
   Draw_Sign(painter, sign_, kSignSize, ink);
 }
 
-void ToolButton::enterEvent(QEnterEvent* event) {
-  QAbstractButton::enterEvent(event);
-  emit Reached();
+void ToolButton::mouseMoveEvent(QMouseEvent* event) {
+  QAbstractButton::mouseMoveEvent(event);
+  event->accept();
+  // A pressed button hears of the mouse wherever that goes.
+  if (rect().contains(event->position().toPoint())) emit Moved_Over();
 }
 
 void ToolButton::focusInEvent(QFocusEvent* event) {
   QAbstractButton::focusInEvent(event);
   if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
-    emit Reached();
+    emit Focus_Came();
+  }
+}
+
+void ToolButton::focusOutEvent(QFocusEvent* event) {
+  QAbstractButton::focusOutEvent(event);
+  // A window that only waits behind another keeps its focus.
+  if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
+    emit Focus_Went();
   }
 }
 

@@ -34,13 +34,15 @@ class ToolButton : public QAbstractButton {
   QSize sizeHint() const override;
 
  signals:
-  /// The mouse or the keyboard has come to the button.
-  void Reached();
+  void Moved_Over();  ///< the mouse moves over the button
+  void Focus_Came();  ///< by the keyboard
+  void Focus_Went();  ///< to another widget of the window
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void enterEvent(QEnterEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   /// The program alone decides which button is the chosen one.
   void nextCheckState() override {}
 

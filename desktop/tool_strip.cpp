@@ -9,6 +9,7 @@
 #include "desktop/desktop.h"
 #include "desktop/form_view.h"
 #include "desktop/kept_room.h"
+#include "desktop/letters.h"
 #include "screen/warmt.h"
 
 namespace norvane {
@@ -16,7 +17,6 @@ namespace norvane {
 ToolStrip::ToolStrip(FormView& view, Warmt& warmt)
     : view_(view), warmt_(warmt), tooltip_(new QFrame(&view)) {
   setFrameShape(QFrame::NoFrame);
-  setMouseTracking(true);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(kMargin, 0, kMargin, 0);
   row->setSpacing(2);
@@ -49,10 +49,20 @@ void ToolStrip::Add_Button(QBoxLayout& row, Button& field, ToolSign sign) {
   row.addWidget(button);
   view_.Bind<ButtonBinder>(field, *button);
   buttons_.emplace_back(&field, button);
-  connect(button, &ToolButton::Reached, this, [this, button, &field] {
-    reached_ = button;
-    view_.Play(UserAction::kHover, field);
+  connect(button, &ToolButton::Moved_Over, this, [this, button, &field] { Reach(*button, field); });
+  connect(button, &ToolButton::Focus_Came, this, [this, button, &field] {
+    Reach(*button, field);
+    brought_by_focus_ = true;
   });
+  connect(button, &ToolButton::Focus_Went, this, [this] {
+    if (brought_by_focus_) view_.Play(UserAction::kHover);
+  });
+}
+
+void ToolStrip::Reach(ToolButton& button, Button& field) {
+  reached_ = &button;
+  brought_by_focus_ = false;
+  view_.Play(UserAction::kHover, field);
 }
 
 void ToolStrip::Make_Tooltip() {
@@ -72,11 +82,30 @@ void ToolStrip::Make_Tooltip() {
 
 void ToolStrip::Place_Tooltip() {
   if (reached_ == nullptr || !warmt_.picToolTip.Visible()) return;
-  tooltip_->adjustSize();
+  if (!tooltip_sized_) Size_Tooltip();
+  auto& text = *view_.Widget_Of(warmt_.LblTooltip);
+  // A language may have a wider font.
+  if (text.sizeHint().width() > text.width()) text.setFixedWidth(text.sizeHint().width());
   const QPoint under = reached_->mapTo(&view_, QPoint(10, reached_->height() - 5));
   tooltip_->move(std::clamp(under.x(), 0, std::max(0, view_.width() - tooltip_->width())),
                  under.y());
   tooltip_->raise();
+}
+
+void ToolStrip::Size_Tooltip() {
+  tooltip_sized_ = true;
+  auto& text = dynamic_cast<QAbstractButton&>(*view_.Widget_Of(warmt_.LblTooltip));
+  const QString shown = text.text();
+  QSize longest;
+  for (const auto& [field, button] : buttons_) {
+    for (const QString& tip : view_.desktop().In_All_Languages(field->tooltip_text)) {
+      text.setText(With_Letter(tip, {}));
+      longest = longest.expandedTo(text.sizeHint());
+    }
+  }
+  text.setText(shown);
+  text.setFixedSize(longest);
+  tooltip_->adjustSize();
 }
 
 void ToolStrip::Name_Buttons() {

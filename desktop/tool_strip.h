@@ -27,15 +27,25 @@ class ToolStrip : public QFrame {
   /// Gives each button its tooltip text as its name.
   void Name_Buttons();
 
+ protected:
+  /// The mouse on the strip's own ground isn't on the bare form.
+  void mouseMoveEvent(QMouseEvent*) override {}
+
  private:
   void Add_Group(QBoxLayout& row, const std::vector<std::pair<Button*, ToolSign>>& group);
   void Add_Button(QBoxLayout& row, Button& field, ToolSign sign);
   void Make_Tooltip();
+  /// Mouse or keyboard has come to a button.
+  void Reach(ToolButton& button, Button& field);
+  /// Gives the box its one size, in which the longest tip of all languages has room.
+  void Size_Tooltip();
 
   FormView& view_;
   Warmt& warmt_;
   QFrame* tooltip_;
+  bool tooltip_sized_ = false;
   ToolButton* reached_ = nullptr;
+  bool brought_by_focus_ = false;  ///< the keyboard was the last to come to a button
   std::vector<std::pair<Button*, ToolButton*>> buttons_;
 };
 

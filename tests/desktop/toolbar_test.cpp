@@ -85,10 +85,53 @@ TEST_F(Toolbar, The_Mouse_Over_The_Bare_Form_Hides_The_Tooltip) {
 
   Hover(Screen().cmdToolBar1(1));
   ASSERT_TRUE(Box().isVisible());
-  // The ground between the rows is the form, too.
+  QWidget& menu = Widget(Screen().lblMenu(3));
+  Hover(Main_View(), menu.mapTo(&Main_View(), menu.rect().topRight() + QPoint(40, 5)));
+  EXPECT_FALSE(Box().isVisible());
+}
+
+TEST_F(Toolbar, The_Grounds_Of_Strip_And_Cards_Are_Not_The_Bare_Form) {
+  Hover(Screen().cmdToolBar1(1));
+  ASSERT_TRUE(Box().isVisible());
+  QWidget& strip = Widget(Screen().picToolbar);
+  Hover(Main_View(), strip.mapTo(&Main_View(), strip.rect().bottomRight() - QPoint(5, 5)));
+  EXPECT_TRUE(Box().isVisible());
   QWidget& card = *Widget(Screen().Label1(0)).parentWidget();
   Hover(Main_View(), card.mapTo(&Main_View(), card.rect().bottomLeft() + QPoint(6, -6)));
-  EXPECT_FALSE(Box().isVisible());
+  EXPECT_TRUE(Box().isVisible());
+}
+
+TEST_F(Toolbar, The_Tooltip_Comes_Back_When_The_Mouse_Moves_On_After_A_Click) {
+  Hover(Screen().cmdToolBar1(3));
+  Click(Screen().cmdToolBar1(3));
+  ASSERT_FALSE(Box().isVisible());
+  Hover(Main_View(), Middle(Widget(Screen().cmdToolBar1(3))) + QPoint(3, 3));
+  EXPECT_TRUE(Box().isVisible());
+}
+
+TEST_F(Toolbar, The_Tooltip_Has_One_Size_For_All_Tips_Of_All_Languages) {
+  Hover(Screen().cmdToolBarT);
+  Settle();
+  const QSize size = Box().size();
+  for (const Tool& tool : Tools()) {
+    Hover(tool.field);
+    Settle();
+    EXPECT_EQ(Box().size(), size) << tool.tooltip;
+  }
+  for (std::int16_t slot = 0; slot < 14; ++slot) {
+    Click(Screen().lblMenu(1));
+    Wait_Until_Active(*State().forms.lang);
+    Click(State().forms.lang->Label2(slot));
+    View(*State().forms.lang).close();
+    Wait_Until_Active(Screen());
+    for (const Tool& tool : Tools()) {
+      Hover(tool.field);
+      Settle();
+      EXPECT_EQ(Box().size(), size) << tool.tooltip << " in language " << slot;
+      Expect_Box_Under(tool.field);
+    }
+    Hover(Main_View(), Bare_Place());
+  }
 }
 
 TEST_F(Toolbar, The_Mouse_Over_Another_Control_Leaves_The_Tooltip) {
@@ -145,6 +188,24 @@ TEST_F(Toolbar, Tab_Shows_The_Tooltip_And_Space_Presses_The_Button) {
   Press(Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_TRUE(Widget(Screen().cmdToolBar1(0)).hasFocus());
   EXPECT_EQ(Tooltip_Text(), "Steel pipe");
+}
+
+TEST_F(Toolbar, A_Tooltip_That_The_Keyboard_Brought_Goes_With_The_Focus) {
+  Click(Screen().cmdToolBar4(1));
+  Press(Qt::Key_Tab);
+  ASSERT_TRUE(Widget(Screen().cmdToolBar5(0)).hasFocus());
+  ASSERT_TRUE(Box().isVisible());
+  Press(Qt::Key_Tab);
+  EXPECT_FALSE(Box().isVisible());
+}
+
+TEST_F(Toolbar, A_Tooltip_That_The_Mouse_Brought_Stays_When_The_Focus_Goes) {
+  Click(Screen().cmdToolBar4(1));
+  Press(Qt::Key_Tab);
+  Hover(Screen().cmdToolBar5(0));
+  ASSERT_TRUE(Box().isVisible());
+  Press(Qt::Key_Tab);
+  EXPECT_TRUE(Box().isVisible());
 }
 
 TEST_F(Toolbar, Buttons_Are_Read_Aloud_By_Their_Tooltips) {
