@@ -18,7 +18,7 @@ fi
 install_packages "to run all tests of Norvane" \
   clang clang-tidy clang-format libclang-rt-dev llvm ccache xvfb openbox \
   libreoffice-calc libreoffice-dev libxlsxwriter-dev libminizip-dev libexpat1-dev locales python3-uno xdotool \
-  at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi libxres-dev git
+  exfat-fuse exfatprogs at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi libxres-dev git
 
 for preset in release clang; do
   echo "== $preset"

@@ -1,11 +1,10 @@
 #include "host/disk_files.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 #include <utility>
 
+#include "host/plain_file.h"
 #include "host/replace_file.h"
 
 namespace norvane {
@@ -97,13 +96,7 @@ fs::path DiskFiles::Path_Of(const std::string& name) const {
 }
 
 std::optional<std::string> DiskFiles::Read(const std::string& name) const {
-  const fs::path path = Path_Of(name);
-  std::error_code error;
-  // Anything but a plain file could block or never end.
-  if (!fs::is_regular_file(path, error)) return std::nullopt;
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(file), {});
+  return Bytes_Of(Path_Of(name));
 }
 
 void DiskFiles::Rewrite(const std::string& name,

@@ -1,128 +1,119 @@
 #include "host/replace_file.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <chrono>
-#include <fstream>
-#include <iterator>
 #include <optional>
 #include <system_error>
 #include <thread>
+#include <utility>
 
-#ifndef _WIN32
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
+#include "host/new_file.h"
+#include "host/open_file.h"
 
 namespace norvane {
 namespace {
 
 namespace fs = std::filesystem;
+using std::chrono::steady_clock;
 
-/// The old bytes, none for a missing file; nothing for one that is there and can't be replaced.
-std::optional<std::string> Old_Bytes(const fs::path& path) {
+using Edit = std::function<std::string(const std::string&)>;
+
+/// For one's turn. Another of the program's processes has its own for the moment of a writing;
+/// whoever else holds the lock may do so for ever.
+constexpr std::chrono::milliseconds kPatience{200};
+constexpr int kAttempts = 20;
+
+/// What stands at a place; nothing read when the place is free.
+struct Old {
+  bool is_there = false;
+  PlainFile file{};
+};
+
+/// Where a link leads to, and any other path as it is. Nothing for a link that somebody else has
+/// put there: it may lead to a file that the user can write to and its maker can't.
+std::optional<fs::path> Followed(const fs::path& name) {
+  struct stat link {};
+  struct stat folder {};
+  if (lstat(name.c_str(), &link) != 0 || !S_ISLNK(link.st_mode)) return name;
+  if (stat(name.parent_path().c_str(), &folder) != 0) return std::nullopt;
+  if (link.st_uid != geteuid() && link.st_uid != 0 && link.st_uid != folder.st_uid) {
+    return std::nullopt;
+  }
   std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  if (!fs::exists(status)) return std::string();
-  if (!fs::is_regular_file(status)) return std::nullopt;
-  if ((status.permissions() & fs::perms::owner_write) == fs::perms::none) return std::nullopt;
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(file), {});
+  fs::path target = fs::canonical(name, error);
+  if (!error) return target;
+  return name.parent_path() / fs::read_symlink(name, error);  // nothing is there yet
 }
 
-#ifdef _WIN32
-
-// Renaming over a file is atomic here too; taking turns isn't attempted.
-class Turn {
- public:
-  explicit Turn(const fs::path&) {}
-  bool Came() const { return true; }
-  void Flush() const {}
-};
-
-bool Write_Flushed(const fs::path& path, const std::string& bytes) {
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  file << bytes << std::flush;
-  return file.good();
+int Open_Folder(const fs::path& folder) {
+  const int readable = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  // One that lets nobody look into it may take files all the same.
+  return readable >= 0 ? readable : open(folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
 }
 
-#else
-
-/// An open file or folder.
-class Handle {
- public:
-  Handle(const fs::path& path, int flags) : number_(open(path.c_str(), flags | O_CLOEXEC, 0666)) {}
-  ~Handle() {
-    if (number_ >= 0) close(number_);
+/// The folder itself is the lock; the system takes it back from a process that dies. Where the
+/// folder can't be locked, or somebody doesn't let go of it, the work is done without.
+void Wait_For_Turn(int folder) {
+  const auto end = steady_clock::now() + kPatience;
+  while (flock(folder, LOCK_EX | LOCK_NB) != 0 && (errno == EWOULDBLOCK || errno == EINTR) &&
+         steady_clock::now() < end) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
-  Handle(const Handle&) = delete;
-  Handle& operator=(const Handle&) = delete;
-
-  int Number() const { return number_; }
-
- private:
-  int number_;
-};
-
-/// The folder itself is the lock; the system takes it back from a process that dies.
-class Turn {
- public:
-  explicit Turn(const fs::path& folder) : folder_(folder, O_RDONLY | O_DIRECTORY) {
-    constexpr int kTries = 3000;
-    for (int i = 0; i < kTries && folder_.Number() >= 0; ++i) {
-      came_ = flock(folder_.Number(), LOCK_EX | LOCK_NB) == 0;
-      if (came_) return;
-      std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-  }
-
-  bool Came() const { return came_; }
-  void Flush() const { fsync(folder_.Number()); }
-
- private:
-  Handle folder_;
-  bool came_ = false;
-};
-
-bool Write_Flushed(const fs::path& path, const std::string& bytes) {
-  const Handle file(path, O_WRONLY | O_CREAT | O_TRUNC);
-  if (file.Number() < 0) return false;
-  for (std::size_t at = 0; at < bytes.size();) {
-    const ssize_t written = write(file.Number(), bytes.data() + at, bytes.size() - at);
-    if (written <= 0) return false;
-    at += static_cast<std::size_t>(written);
-  }
-  return fsync(file.Number()) == 0;
 }
 
-#endif
+/// Nothing when what stands there can't be replaced.
+std::optional<Old> Look_At(int folder, const std::string& place) {
+  auto file = Read_Plain_File(folder, place.c_str(), O_RDWR | O_NOFOLLOW);
+  if (!file) return errno == ENOENT ? std::optional(Old{}) : std::nullopt;
+  // To the system's own user every file can be written.
+  if ((file->status.st_mode & S_IWUSR) == 0) return std::nullopt;
+  return Old{true, std::move(*file)};
+}
+
+bool Is_Unchanged(int folder, const std::string& place, const Old& old) {
+  struct stat now {};
+  if (fstatat(folder, place.c_str(), &now, AT_SYMLINK_NOFOLLOW) != 0) return !old.is_there;
+  const struct stat& then = old.file.status;
+  return old.is_there && now.st_dev == then.st_dev && now.st_ino == then.st_ino &&
+         now.st_size == then.st_size && now.st_mtim.tv_sec == then.st_mtim.tv_sec &&
+         now.st_mtim.tv_nsec == then.st_mtim.tv_nsec;
+}
+
+/// Whether that was all that could be done; not, when somebody was faster.
+bool Replace_Unless_Changed(int folder, const std::string& place, const Edit& edit) {
+  const auto old = Look_At(folder, place);
+  if (!old) return true;
+  const std::string new_bytes = edit(old->file.bytes);
+  if (old->is_there && new_bytes == old->file.bytes) return true;
+  NewFile new_file(folder, place, !old->is_there);
+  if (!new_file.Is_Open() || (old->is_there && !new_file.Take_Over(old->file.status)) ||
+      !new_file.Write(new_bytes)) {
+    return true;
+  }
+  if (!Is_Unchanged(folder, place, *old)) return false;
+  if (new_file.Take_Place()) {
+    fsync(folder);
+    Remove_Rests(folder, place);
+  }
+  return true;
+}
 
 }  // namespace
 
-void Replace_File(const fs::path& name,
-                  const std::function<std::string(const std::string&)>& edit) {
-  std::error_code error;
-  // A link stays one: what it leads to is replaced.
-  const fs::path path = fs::is_symlink(name, error) ? fs::weakly_canonical(name, error) : name;
-  const Turn turn(path.parent_path());
-  if (!turn.Came()) return;
-  const auto old_bytes = Old_Bytes(path);
-  if (!old_bytes) return;
-  const std::string new_bytes = edit(*old_bytes);
-  if (new_bytes == *old_bytes && fs::exists(path, error)) return;
-  fs::path beside = path;
-  beside += ".new";
-  if (Write_Flushed(beside, new_bytes)) {
-    const fs::perms perms = fs::status(path, error).permissions();
-    if (perms != fs::perms::unknown && perms != fs::perms::none) {
-      fs::permissions(beside, perms, error);
-    }
-    fs::rename(beside, path, error);
-    turn.Flush();
-    if (!error) return;
+void Replace_File(const fs::path& name, const Edit& edit) {
+  const auto path = Followed(name);
+  if (!path) return;
+  const OpenFile folder(Open_Folder(path->parent_path()));
+  if (!folder.Is_Open()) return;
+  Wait_For_Turn(folder.Number());
+  const std::string place = path->filename().string();
+  int attempts = kAttempts;
+  while (attempts-- > 0 && !Replace_Unless_Changed(folder.Number(), place, edit)) {
   }
-  fs::remove(beside, error);
 }
 
 }  // namespace norvane

@@ -4,7 +4,7 @@
 #include <iterator>
 #include <utility>
 
-#include "spreadsheet/random_name.h"
+#include "host/random_digits.h"
 
 namespace norvane {
 namespace {
@@ -66,7 +66,7 @@ void OfficeSpreadsheet::Reach_By_Call() {
 }
 
 bool OfficeSpreadsheet::Answers_Call(steady_clock::time_point end) {
-  pipe_ = Random_Name();
+  pipe_ = "norvane-" + Random_Digits();
   const auto program = means_.call(
       {"--accept=pipe,name=" + pipe_ + ";urp;", "--nodefault", "--norestore", "--nologo"});
   auto given_up = end;

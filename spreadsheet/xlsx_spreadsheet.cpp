@@ -5,9 +5,9 @@
 #include <memory>
 #include <utility>
 
+#include "host/random_digits.h"
 #include "spreadsheet/patient_thread.h"
 #include "spreadsheet/plug_in.h"
-#include "spreadsheet/random_name.h"
 
 namespace norvane {
 namespace {
@@ -18,7 +18,7 @@ constexpr std::chrono::seconds kPatience{60};
 
 /// A new file's path in a new folder that is the user's alone.
 fs::path New_File(const std::string& title) {
-  const fs::path folder = fs::temp_directory_path() / Random_Name();
+  const fs::path folder = fs::temp_directory_path() / ("norvane-" + Random_Digits());
   if (!fs::create_directory(folder)) throw SpreadsheetFailure();
   fs::permissions(folder, fs::perms::owner_all);
   return folder / (title + ".xlsx");

@@ -2,7 +2,7 @@
 
 from program import expect, set_hours, values_of
 
-HUGE = 100_000_000  # bytes
+HUGE = 60_000_000  # bytes; larger ones aren't read
 HUGE_IN_SHORT = 2_000_000
 HEADER = b"English,Arial,0\r\n0,name=English-3.1\r\n"
 

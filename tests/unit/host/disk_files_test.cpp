@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "../support/test_folder.h"
+#include "host/plain_file.h"
 
 namespace norvane {
 namespace {
@@ -117,6 +118,24 @@ TEST_F(Reading, OfAPipeIsRefusedWithoutWaiting) {
 
 TEST_F(Reading, OfADeviceIsRefused) {
   std::filesystem::create_symlink("/dev/zero", folder_ / "language.len");
+  EXPECT_EQ(files_.Read("language.len"), std::nullopt);
+}
+
+TEST_F(Reading, OfATableOfTheSystemIsRefused) {
+  std::filesystem::create_symlink("/proc/self/maps", folder_ / "language.len");
+  EXPECT_EQ(files_.Read("language.len"), std::nullopt);
+}
+
+TEST_F(Reading, OfAnEmptyFileGivesNoBytes) {
+  folder_.Write("language.len", "");
+  EXPECT_EQ(files_.Read("language.len"), "");
+}
+
+TEST_F(Reading, GoesUpToASizeThatNoTextComesNear) {
+  folder_.Write("language.len", "");
+  std::filesystem::resize_file(folder_ / "language.len", kLargestFile);
+  EXPECT_EQ(files_.Read("language.len").value_or("").size(), kLargestFile);
+  std::filesystem::resize_file(folder_ / "language.len", kLargestFile + 1);
   EXPECT_EQ(files_.Read("language.len"), std::nullopt);
 }
 

@@ -14,6 +14,7 @@
 #include "../support/child_process.h"
 #include "../support/test_folder.h"
 #include "host/failed_writes.h"
+#include "host/plain_file.h"
 
 namespace norvane {
 namespace {
@@ -56,12 +57,59 @@ TEST_F(ReplacedFile, HasNothingLeftBesideIt) {
   EXPECT_EQ(folder_.Names(), Names{"file"});
 }
 
-TEST_F(ReplacedFile, IsReplacedOverTheRestsOfAKilledRun) {
-  folder_.Write("file", "old and ");
-  folder_.Write("file.new", "half a rewriting, and much longer than the new bytes are");
+TEST_F(ReplacedFile, LeavesWhatSomebodyElseKeepsBesideIt) {
+  folder_.Write("file.new", "somebody's own");
   Replace_File(path_, Append_New);
-  EXPECT_EQ(folder_.Bytes_Of("file"), "old and new");
+  EXPECT_EQ(folder_.Bytes_Of("file"), "new");
+  EXPECT_EQ(folder_.Bytes_Of("file.new"), "somebody's own");
+}
+
+TEST_F(ReplacedFile, IsEditedAnewWhenSomebodyWasFaster) {
+  folder_.Write("file", "old and ");
+  int times = 0;
+  Replace_File(path_, [&](const std::string& bytes) {
+    if (times++ == 0) folder_.Write("file", "somebody's own words and ");
+    return bytes + "new";
+  });
+  EXPECT_EQ(times, 2);
+  EXPECT_EQ(folder_.Bytes_Of("file"), "somebody's own words and new");
+}
+
+TEST_F(ReplacedFile, IsEditedAnewWhenItIsMadeMeanwhile) {
+  int times = 0;
+  Replace_File(path_, [&](const std::string& bytes) {
+    if (times++ == 0) folder_.Write("file", "made and ");
+    return bytes + "new";
+  });
+  EXPECT_EQ(times, 2);
+  EXPECT_EQ(folder_.Bytes_Of("file"), "made and new");
+}
+
+TEST_F(ReplacedFile, StaysAsItIsWhenItNeverComesToRest) {
+  folder_.Write("file", "");
+  int times = 0;
+  Replace_File(path_, [&](const std::string& bytes) {
+    folder_.Write("file", std::string(static_cast<std::size_t>(++times), 'x'));
+    return bytes + "new";
+  });
+  EXPECT_LT(times, 100);
+  EXPECT_EQ(folder_.Bytes_Of("file"), std::string(static_cast<std::size_t>(times), 'x'));
   EXPECT_EQ(folder_.Names(), Names{"file"});
+}
+
+TEST_F(ReplacedFile, StaysAsItIsWhenItIsLargerThanAnyTextOfTheProgram) {
+  folder_.Write("file", "");
+  fs::resize_file(path_, kLargestFile + 1);
+  Replace_File(path_, Append_New);
+  EXPECT_EQ(fs::file_size(path_), kLargestFile + 1);
+  EXPECT_EQ(folder_.Names(), Names{"file"});
+}
+
+TEST_F(ReplacedFile, IsWrittenWhereALinkLeadsToThatLeadsToNothingYet) {
+  fs::create_symlink("target", path_);
+  Replace_File(path_, Append_New);
+  EXPECT_TRUE(fs::is_symlink(path_));
+  EXPECT_EQ(folder_.Bytes_Of("target"), "new");
 }
 
 TEST_F(ReplacedFile, KeepsItsPermissions) {
