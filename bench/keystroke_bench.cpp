@@ -28,9 +28,9 @@ class StartedProgram {
 
   Warmt& Screen() { return *program_.State().forms.warmt; }
   void Type(TextField& field, const std::string& text) {
-    program_.Play({UserAction::kSetText, Screen(), &field, text});
+    program_.Dispatch({UserAction::kSetText, Screen(), &field, text});
   }
-  void Click(Button& button) { program_.Play({UserAction::kClick, Screen(), &button}); }
+  void Click(Button& button) { program_.Dispatch({UserAction::kClick, Screen(), &button}); }
 
  private:
   std::filesystem::path folder_;

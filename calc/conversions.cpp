@@ -7,6 +7,7 @@
 
 #include "calc/decimal.h"
 #include "data/runtime_error.h"
+#include "data/text.h"
 
 namespace norvane {
 namespace {
@@ -156,20 +157,6 @@ double Divide(double dividend, double divisor) {
 double Natural_Log(double value) {
   if (!(value > 0)) throw RuntimeError(RuntimeError::kInvalidProcedureCall);
   return std::log(value);
-}
-
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return lower;
-}
-
-std::string_view Trim(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 }  // namespace norvane

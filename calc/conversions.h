@@ -57,10 +57,4 @@ double Divide(double dividend, double divisor);
 /// The natural logarithm. Throws `RuntimeError` 5 for zero and below.
 double Natural_Log(double value);
 
-/// `text` with its ASCII letters in lower case.
-std::string Lower(std::string_view text);
-
-/// `text` without the blanks (spaces) at its ends.
-std::string_view Trim(std::string_view text);
-
 }  // namespace norvane

@@ -4,8 +4,8 @@
 #include <iterator>
 
 #include "calc/conversions.h"
+#include "data/list_input.h"
 #include "data/runtime_error.h"
-#include "frame/list_input.h"
 #include "frame/shared_state.h"
 
 namespace norvane {

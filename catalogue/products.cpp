@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "calc/conversions.h"
-#include "catalogue/settings_form.h"
 #include "data/runtime_error.h"
 #include "data/string_table.h"
 #include "frame/shared_state.h"
@@ -64,11 +63,6 @@ const ClsProduct& Product_Of(const Module1& module1, const std::string& name) {
     throw RuntimeError(RuntimeError::kInvalidProcedureCall);
   }
   return *product;
-}
-
-void Click_Combo1(Module1& module1) {
-  const std::string& lambda = Product_Of(module1, module1.forms.warmt->Combo1.Text()).Lambda();
-  module1.forms.settings->Text1.Set_Text(lambda);
 }
 
 }  // namespace norvane

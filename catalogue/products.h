@@ -38,7 +38,4 @@ void Fill_Product_Combo(Module1& module1, std::int16_t DataGroupID);
 /// The product of that name. Throws `RuntimeError` 5 when there is none.
 const ClsProduct& Product_Of(const Module1& module1, const std::string& name);
 
-/// Hands the chosen product's lambda to the settings.
-void Click_Combo1(Module1& module1);
-
 }  // namespace norvane

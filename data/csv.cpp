@@ -6,6 +6,8 @@
 #include <cmath>
 #include <cstdint>
 
+#include "data/text.h"
+
 namespace norvane {
 namespace {
 
@@ -62,12 +64,6 @@ bool Read_Any(std::string_view text, char decimal, double& number) {
   if (read.ec != std::errc() || read.ptr != end || !std::isfinite(value)) return false;
   number = value;
   return true;
-}
-
-std::string_view Without_Blanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
 }  // namespace
@@ -155,7 +151,7 @@ bool Read_Number(std::string_view field, char decimal, double& number) {
   if (!field.empty() && field.front() == kQuote && field.size() > 1 && field.back() == kQuote) {
     field = field.substr(1, field.size() - 2);
   }
-  std::string_view text = Without_Blanks(field);
+  std::string_view text = Trim(field, " \t");
   const bool negative = !text.empty() && text.front() == '-';
   if (negative || (!text.empty() && text.front() == '+')) text.remove_prefix(1);
   // A second sign is none that belongs there.

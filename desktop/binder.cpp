@@ -66,8 +66,8 @@ void Binder::Show_Font() {
   if (widget_.font() != font) widget_.setFont(font);
 }
 
-void Binder::Play(UserAction action, int first, int last) {
-  view_.Play(action, field_, first, last);
+void Binder::Send(UserAction action, int first, int last) {
+  view_.Send(action, field_, first, last);
 }
 
 TextBinder::TextBinder(FormView& view, TextField& field, NumberEdit& edit, Field* spin_pair)
@@ -78,14 +78,14 @@ TextBinder::TextBinder(FormView& view, TextField& field, NumberEdit& edit, Field
                    [this](const QString& text) { Tell_By_Other_Ways(text); });
   if (spin_pair == nullptr) return;
   QObject::connect(&edit, &NumberEdit::Stepped, &edit, [this, spin_pair](int direction) {
-    Binder::view().Play(direction < 0 ? UserAction::kDown : UserAction::kUp, *spin_pair);
+    form_view().Send(direction < 0 ? UserAction::kDown : UserAction::kUp, *spin_pair);
   });
 }
 
 void TextBinder::Tell(const QString& text) {
   // Shown again in any case: what the program refuses or rewrites leaves no trace.
-  view().Field_Changed(field_, Attribute::kText);
-  view().Play_Text(field_, text);
+  form_view().Field_Changed(field_, Attribute::kText);
+  form_view().Send_Text(field_, text);
 }
 
 void TextBinder::Tell_By_Keys(const QString& text) {
@@ -124,7 +124,7 @@ void CaptionBinder::Show_Field() {
   Show_Font();
   // Only the heading of another widget can have a letter; elsewhere "&" is an ordinary sign.
   const bool heading = label_.buddy() != nullptr;
-  Show_Caption(heading ? With_Letter(Caption(), view().Letter_Of(field_)) : Caption());
+  Show_Caption(heading ? With_Letter(Caption(), form_view().Letter_Of(field_)) : Caption());
 }
 
 void CaptionBinder::Show_Caption(const QString& caption) { label_.setText(caption); }
@@ -151,23 +151,23 @@ CaptionButtonBinder::CaptionButtonBinder(FormView& view, CaptionField& field,
                                          QAbstractButton& button)
     : Binder(view, field, button), field_(field), button_(button) {
   QObject::connect(&button, &QAbstractButton::clicked, &button,
-                   [this] { Play(UserAction::kClick); });
+                   [this] { Send(UserAction::kClick); });
 }
 
 void CaptionButtonBinder::Show_Field() {
   Show_Font();
-  button_.setText(With_Letter(Caption(), view().Letter_Of(field_)));
+  button_.setText(With_Letter(Caption(), form_view().Letter_Of(field_)));
 }
 
 ButtonBinder::ButtonBinder(FormView& view, Button& field, QAbstractButton& button)
     : Binder(view, field, button), field_(field), button_(button) {
   QObject::connect(&button, &QAbstractButton::clicked, &button,
-                   [this] { Play(UserAction::kClick); });
+                   [this] { Send(UserAction::kClick); });
   // A screen reader toggles a button that can be checked, and means a click.
   QObject::connect(&button, &QAbstractButton::toggled, &button, [this](bool checked) {
     if (checked == Is_Chosen()) return;
-    Binder::view().Field_Changed(field_, Attribute::kPicture);
-    Play(UserAction::kClick);
+    form_view().Field_Changed(field_, Attribute::kPicture);
+    Send(UserAction::kClick);
   });
 }
 
@@ -175,7 +175,7 @@ bool ButtonBinder::Is_Chosen() const { return field_.Picture() == ButtonPicture:
 
 void ButtonBinder::Show_Field() {
   Show_Font();
-  button_.setText(With_Letter(Caption(), view().Letter_Of(field_)));
+  button_.setText(With_Letter(Caption(), form_view().Letter_Of(field_)));
   if (button_.isCheckable()) button_.setChecked(Is_Chosen());
 }
 
@@ -184,7 +184,7 @@ PictureBinder::PictureBinder(FormView& view, PictureField& field, QWidget& widge
     : Binder(view, field, widget), field_(field), show_picture_(std::move(show_picture)) {
   if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
     QObject::connect(button, &QAbstractButton::clicked, button,
-                     [this] { Play(UserAction::kClick); });
+                     [this] { Send(UserAction::kClick); });
   }
 }
 
@@ -195,8 +195,8 @@ void PictureBinder::Show_Field() {
 ComboBinder::ComboBinder(FormView& view, ListField& field, QComboBox& combo)
     : Binder(view, field, combo), field_(field), combo_(combo) {
   QObject::connect(&combo, &QComboBox::activated, &combo, [this](int index) {
-    Binder::view().Field_Changed(field_, Attribute::kListIndex);
-    Play(UserAction::kChoose, index);
+    form_view().Field_Changed(field_, Attribute::kListIndex);
+    Send(UserAction::kChoose, index);
   });
 }
 
@@ -226,7 +226,7 @@ void ListBinder::Show_Field() {
 SpinBinder::SpinBinder(FormView& view, Field& field, SpinArrows& arrows)
     : Binder(view, field, arrows) {
   QObject::connect(&arrows, &SpinArrows::Stepped, &arrows, [this](int direction) {
-    Play(direction < 0 ? UserAction::kDown : UserAction::kUp);
+    Send(direction < 0 ? UserAction::kDown : UserAction::kUp);
   });
 }
 
@@ -235,8 +235,8 @@ void SpinBinder::Show_Field() {}
 TabsBinder::TabsBinder(FormView& view, Tabs& field, QTabBar& bar)
     : Binder(view, field, bar), field_(field), bar_(bar) {
   QObject::connect(&bar, &QTabBar::currentChanged, &bar, [this](int tab) {
-    Binder::view().Field_Changed(field_, Attribute::kTab);
-    Play(UserAction::kPickTab, tab);
+    form_view().Field_Changed(field_, Attribute::kTab);
+    Send(UserAction::kPickTab, tab);
   });
 }
 
@@ -256,7 +256,7 @@ TimerBinder::TimerBinder(FormView& view, TickTimer& field, QTimer& timer)
   timer.setSingleShot(true);
   QObject::connect(&timer, &QTimer::timeout, &timer, [this] {
     timer_.start();
-    Binder::view().desktop().Tick(field_);
+    form_view().desktop().Tick(field_);
   });
 }
 

@@ -48,11 +48,11 @@ class Binder {
   /// Whether there is anything to see; a widget that shows nothing takes no room.
   virtual bool Has_Content() const { return true; }
 
-  FormView& view() const { return view_; }
+  FormView& form_view() const { return view_; }
   /// A text of the field as the user reads it: by the character set of its font.
   QString Shown(const std::string& bytes) const;
   void Show_Font();
-  void Play(UserAction action, int first = 0, int last = 0);
+  void Send(UserAction action, int first = 0, int last = 0);
 
  private:
   FormView& view_;

@@ -143,9 +143,9 @@ void Desktop::Start() {
   Call([this] { program_.Main(); });
 }
 
-void Desktop::Play(const UserEvent& event) {
+void Desktop::Answer(const UserEvent& event) {
   if (program_.Ended()) return;  // while its last message is still to be read
-  Call([&] { program_.Play(event); });
+  Call([&] { program_.Dispatch(event); });
 }
 
 void Desktop::Tick(TickTimer& timer) {

@@ -51,7 +51,7 @@ class Desktop : public Platform, public Display {
   /// Starts the program.
   void Start();
   /// Carries out what the user did and shows what came of it.
-  void Play(const UserEvent& event);
+  void Answer(const UserEvent& event);
   void Tick(TickTimer& timer);
   /// Brings all windows up to date with their forms.
   void Show_Changes();

@@ -138,7 +138,7 @@ void FormView::Show_Window() {
 }
 
 void FormView::Close_By_Escape() {
-  new QShortcut(Qt::Key_Escape, this, [this] { Play(UserAction::kCloseBox); });
+  new QShortcut(Qt::Key_Escape, this, [this] { Send(UserAction::kCloseBox); });
 }
 
 void FormView::Place_Window() {
@@ -156,34 +156,34 @@ void FormView::Show_Modal(QEventLoop& loop) {
   setWindowModality(Qt::ApplicationModal);
 }
 
-void FormView::Play(UserAction action, Field& field, int first, int last) {
+void FormView::Send(UserAction action, Field& field, int first, int last) {
   if (form_ == nullptr) return;
   UserEvent event{action, *form_, &field};
   event.first = first;
   event.last = last;
-  desktop_.Play(event);
+  desktop_.Answer(event);
 }
 
-void FormView::Play_Text(Field& field, const QString& text) {
+void FormView::Send_Text(Field& field, const QString& text) {
   if (form_ == nullptr) return;
   UserEvent event{UserAction::kSetText, *form_, &field};
   event.text =
       From_Utf8(text.toStdString(), field.Font().charset.value_or(desktop_.Current_Charset()));
-  desktop_.Play(event);
+  desktop_.Answer(event);
 }
 
-void FormView::Play(UserAction action) {
-  if (form_ != nullptr) desktop_.Play({action, *form_});
+void FormView::Send(UserAction action) {
+  if (form_ != nullptr) desktop_.Answer({action, *form_});
 }
 
 void FormView::closeEvent(QCloseEvent* event) {
   event->ignore();
-  Play(UserAction::kCloseBox);
+  Send(UserAction::kCloseBox);
 }
 
 void FormView::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) Play(UserAction::kActivate);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) Send(UserAction::kActivate);
 }
 
 void FormView::resizeEvent(QResizeEvent* event) {
@@ -203,12 +203,12 @@ void FormView::Tell_Size() {
   resized.width = To_Twips(width());
   resized.height = To_Twips(height());
   if (resized.width == form_->Place().width && resized.height == form_->Place().height) return;
-  desktop_.Play(resized);
+  desktop_.Answer(resized);
 }
 
 void FormView::mouseMoveEvent(QMouseEvent* event) {
   QWidget::mouseMoveEvent(event);
-  Play(UserAction::kHover);
+  Send(UserAction::kHover);
 }
 
 }  // namespace norvane

@@ -49,9 +49,9 @@ class FormView : public QWidget, public FormObserver {
   QChar Letter_Of(const Field& field) const;
 
   /// Tells the program what the user does with a field, or with the form itself.
-  void Play(UserAction action, Field& field, int first = 0, int last = 0);
-  void Play_Text(Field& field, const QString& text);
-  void Play(UserAction action);
+  void Send(UserAction action, Field& field, int first = 0, int last = 0);
+  void Send_Text(Field& field, const QString& text);
+  void Send(UserAction action);
 
   Desktop& desktop() const { return desktop_; }
   Form* form() const { return form_; }

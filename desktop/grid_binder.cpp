@@ -128,7 +128,7 @@ void GridBinder::Size_Columns() {
 
 void GridBinder::Pick() {
   const auto [from, to] = Selected_Rows(table_);
-  if (from >= 0) Play(UserAction::kPickRows, from + 1, to + 1);
+  if (from >= 0) Send(UserAction::kPickRows, from + 1, to + 1);
 }
 
 void GridBinder::Copy() const {

@@ -117,10 +117,10 @@ void SettingsView::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      Play(UserAction::kClick, settings_.Command1);
+      Send(UserAction::kClick, settings_.Command1);
       return;
     case Qt::Key_Escape:
-      Play(UserAction::kClick, settings_.Command2);
+      Send(UserAction::kClick, settings_.Command2);
       return;
     default:
       FormView::keyPressEvent(event);

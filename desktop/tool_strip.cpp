@@ -55,14 +55,14 @@ void ToolStrip::Add_Button(QBoxLayout& row, Button& field, ToolSign sign) {
     brought_by_focus_ = true;
   });
   connect(button, &ToolButton::Focus_Went, this, [this] {
-    if (brought_by_focus_) view_.Play(UserAction::kHover);
+    if (brought_by_focus_) view_.Send(UserAction::kHover);
   });
 }
 
 void ToolStrip::Reach(ToolButton& button, Button& field) {
   reached_ = &button;
   brought_by_focus_ = false;
-  view_.Play(UserAction::kHover, field);
+  view_.Send(UserAction::kHover, field);
 }
 
 void ToolStrip::Make_Tooltip() {

@@ -31,5 +31,5 @@ int main(int argc, char** argv) {
   }
   norvane::HeadlessPlatform platform(arguments[0], decimal_separator, std::cout);
   norvane::Script script(platform, std::cin, std::cout, std::cerr);
-  return static_cast<int>(script.Play());
+  return static_cast<int>(script.Run());
 }

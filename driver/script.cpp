@@ -31,7 +31,7 @@ Script::Script(HeadlessPlatform& platform, std::istream& in, std::ostream& out,
   };
 }
 
-ScriptOutcome Script::Play() {
+ScriptOutcome Script::Run() {
   try {
     Play_Lines([] { return true; });
   } catch (const ScriptEnd&) {
@@ -195,7 +195,7 @@ void Script::Erase(const UserEvent& where, int letters) {
 }
 
 bool Script::Send(const UserEvent& event) {
-  if (const auto reason = program_.Play(event)) {
+  if (const auto reason = program_.Dispatch(event)) {
     out_ << "refused: " << *reason << '\n';
     return false;
   }

@@ -19,7 +19,7 @@ class Script {
  public:
   Script(HeadlessPlatform& platform, std::istream& in, std::ostream& out, std::ostream& errors);
 
-  ScriptOutcome Play();
+  ScriptOutcome Run();
 
  private:
   void Play_Lines(const std::function<bool()>& goes_on);

@@ -3,9 +3,10 @@
 #include <algorithm>
 
 #include "calc/conversions.h"
+#include "data/list_input.h"
 #include "data/runtime_error.h"
+#include "data/text.h"
 #include "frame/lang_form.h"
-#include "frame/list_input.h"
 #include "frame/settings_file.h"
 #include "frame/shared_state.h"
 #include "frame/version.h"

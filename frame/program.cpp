@@ -16,7 +16,7 @@ void Program::Main() {
   });
 }
 
-std::optional<std::string> Program::Play(const UserEvent& event) {
+std::optional<std::string> Program::Dispatch(const UserEvent& event) {
   if (auto reason = Reason_To_Refuse(module1_.desk, event)) return reason;
   std::optional<std::string> reason;
   Run([&] {

@@ -21,7 +21,7 @@ class Program {
 
   /// Carries out what the user does. Returns why it was refused, when it is something that a user
   /// could not do; nothing has happened then.
-  std::optional<std::string> Play(const UserEvent& event);
+  std::optional<std::string> Dispatch(const UserEvent& event);
 
   /// A tick of a timer; nothing when the timer is disabled, or while the start or an event is being
   /// carried out.

@@ -1,7 +1,7 @@
 #include "frame/settings_file.h"
 
 #include "calc/conversions.h"
-#include "frame/private_profile.h"
+#include "data/private_profile.h"
 #include "frame/shared_state.h"
 
 namespace norvane {

@@ -31,11 +31,11 @@ void RunningProgram::Tick() {
 }
 
 void RunningProgram::Click(Field& field) {
-  if (!Ended()) program.Play({UserAction::kClick, field.form(), &field});
+  if (!Ended()) program.Dispatch({UserAction::kClick, field.form(), &field});
 }
 
 void RunningProgram::Close(Form& form) {
-  if (!Ended()) program.Play({UserAction::kCloseBox, form});
+  if (!Ended()) program.Dispatch({UserAction::kCloseBox, form});
 }
 
 void RunningProgram::Require_Order() {
@@ -46,7 +46,8 @@ void RunningProgram::Require_Order() {
   }
   if (!forms().warmt.Loaded()) return;
   Form& form = forms().warmt.Get();
-  Require(program.Play({UserAction::kActivate, form}).has_value(), "a program that ended refuses");
+  Require(program.Dispatch({UserAction::kActivate, form}).has_value(),
+          "a program that ended refuses");
 }
 
 }  // namespace norvane

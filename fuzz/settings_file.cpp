@@ -8,8 +8,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "data/private_profile.h"
 #include "data/runtime_error.h"
-#include "frame/private_profile.h"
+#include "data/text.h"
 #include "frame/shared_state.h"
 #include "input.h"
 #include "memory_platform.h"

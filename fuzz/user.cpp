@@ -97,7 +97,7 @@ void User::Act_On_Field(UserAction action) {
   if (field == nullptr) return;
   UserEvent event{action, *form, field};
   Give_Details(event);
-  Play(event);
+  Try(event);
 }
 
 void User::Act_On_Form() {
@@ -112,7 +112,7 @@ void User::Act_On_Form() {
     event.width = kSizes[input_.Below(std::size(kSizes))];
     event.height = kSizes[input_.Below(std::size(kSizes))];
   }
-  Play(event);
+  Try(event);
 }
 
 void User::Act_Wildly() {
@@ -123,7 +123,7 @@ void User::Act_Wildly() {
   event.first = static_cast<int>(input_.Below(40)) - 2;
   event.last = static_cast<int>(input_.Below(40)) - 2;
   event.text = input_.Bytes(input_.Below(32));
-  Play(event);
+  Try(event);
 }
 
 void User::Answer() {
@@ -192,7 +192,7 @@ std::string User::Text_For(const TextField& field) {
   return field.Text().substr(0, field.Text().empty() ? 0 : field.Text().size() - 1);
 }
 
-void User::Play(const UserEvent& event) {
+void User::Try(const UserEvent& event) {
   Desk& desk = run_.State().desk;
   Tell(Line_Of(event, event.field ? Charset_Of(run_.State(), *event.field) : 0));
 
@@ -203,7 +203,7 @@ void User::Play(const UserEvent& event) {
   const bool refused = Reason_To_Refuse(desk, event).has_value();
   const std::string before = refused || same ? Digest(run_.State()) : std::string();
   const int raised = change_rule_.raised;
-  const auto reason = run_.program.Play(event);
+  const auto reason = run_.program.Dispatch(event);
   Require(!refused || reason, "what a user can't do is refused");
   if (refused || same) {
     Require(Digest(run_.State()) == before, "a refusal or the same text changes nothing");

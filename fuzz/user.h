@@ -40,7 +40,7 @@ class User {
   bool Can_Act(UserAction action, const Field& field);
   void Give_Details(UserEvent& event);
   std::string Text_For(const TextField& field);
-  void Play(const UserEvent& event);
+  void Try(const UserEvent& event);
   void Require_State();
 
   Input& input_;

@@ -4,6 +4,7 @@
 #include <system_error>
 #include <utility>
 
+#include "data/text.h"
 #include "host/plain_file.h"
 #include "host/replace_file.h"
 
@@ -11,13 +12,6 @@ namespace norvane {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string Lower(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(), [](char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  });
-  return text;
-}
 
 /// Whether a name fits a pattern of "*" and "?"; both are lower case.
 bool Fits(std::string_view name, std::string_view pattern) {

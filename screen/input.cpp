@@ -1,5 +1,6 @@
 #include "calc/limits.h"
 #include "calc/sizes.h"
+#include "data/text.h"
 #include "frame/shared_state.h"
 #include "screen/warmt.h"
 
@@ -34,13 +35,13 @@ void Warmt::Change(FieldArray<TextField>& F, int Index) {
   switch (Index) {
     case 0:
     case 1:
-      Step_Of_Temperature(Index, F(Index));
+      Limit_Temperature(Index, F(Index));
       break;
     case 2:
-      Step_Of_Thickness(F(2));
+      Limit_Thickness(F(2));
       break;
     case 3:
-      Step_Of_Diameter(F(3));
+      Limit_Diameter(F(3));
       break;
     default:
       break;
@@ -53,14 +54,14 @@ void Warmt::Change(FieldArray<TextField>& F, int Index) {
   Bereken();
 }
 
-// Each step reads the text again wherever it needs the value: a write may have run a whole handler
+// Each limit reads the text again wherever it needs the value: a write may have run a whole handler
 // inside it.
 
 void Warmt::Write_Canonically(TextField& field) {
   field.Set_Text(Format(Val(field.Text()), module1_.Locale()));
 }
 
-void Warmt::Step_Of_Temperature(int Index, TextField& field) {
+void Warmt::Limit_Temperature(int Index, TextField& field) {
   const Limits& limits = kTemperatureLimits[Index];
   const norvane::Locale locale = module1_.Locale();
   if (Val(field.Text()) < limits.least) field.Set_Text(Format(limits.least, locale));
@@ -68,7 +69,7 @@ void Warmt::Step_Of_Temperature(int Index, TextField& field) {
   Write_Canonically(field);
 }
 
-void Warmt::Step_Of_Thickness(TextField& field) {
+void Warmt::Limit_Thickness(TextField& field) {
   if (Val(field.Text()) < 0) {
     field.Set_Text("0");
     Text2(2).Set_Caption("");
@@ -83,7 +84,7 @@ void Warmt::Step_Of_Thickness(TextField& field) {
   Show_Inch_Of_Thickness(field);
 }
 
-void Warmt::Step_Of_Diameter(TextField& field) {
+void Warmt::Limit_Diameter(TextField& field) {
   if (Val(field.Text()) < kLeastDiameter) Init_results();
   const double most = Pipe_Sizes(module1_.Sel_Size).back().mm;
   if (Val(field.Text()) > most) {

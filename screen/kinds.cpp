@@ -96,6 +96,11 @@ void Warmt::Select_Lambda(int index) {
   Select_Kind(module1_.Sel_Size);
 }
 
+void Warmt::Click_Combo1() {
+  const std::string& lambda = Product_Of(module1_, Combo1.Text()).Lambda();
+  module1_.forms.settings->Text1.Set_Text(lambda);
+}
+
 void Warmt::Show_Saving_Settings() {
   Settings& settings = *module1_.forms.settings;
   settings.SSTab1.Set_Tab(Settings::kSavingTab);

@@ -36,8 +36,8 @@ double Entry_Of(const std::vector<double>& list, int index) {
 // calculation; one that an up click writes only runs its conversion, as the flag is set.
 
 void Warmt::DownClick(int Index) {
-  Step(Index, Spin::kDown);
-  Close_Step();
+  Spin_Row(Index, Direction::kDown);
+  Finish_Spin();
 }
 
 void Warmt::UpClick(int Index) {
@@ -47,71 +47,71 @@ void Warmt::UpClick(int Index) {
     return;
   }
   Calc_Busy = true;
-  Step(Index, Spin::kUp);
-  Close_Step();
+  Spin_Row(Index, Direction::kUp);
+  Finish_Spin();
 }
 
-void Warmt::Close_Step() {
+void Warmt::Finish_Spin() {
   Bereken();
   Calc_Busy = false;
 }
 
-void Warmt::Step(int Index, Spin spin) {
+void Warmt::Spin_Row(int Index, Direction direction) {
   switch (Index) {
     case 0:
-      Step_Temperature(0, spin);
+      Spin_Temperature(0, direction);
       break;
     case 1:
       if (Calc_Mode == "T") {
-        Step_Temperature(1, spin);
+        Spin_Temperature(1, direction);
       } else {
-        Step_Dew_Temperature(spin);
+        Spin_Dew_Temperature(direction);
       }
       break;
     case 2:
-      Step_Thickness(spin);
+      Spin_Thickness(direction);
       break;
     case 3:
-      Step_Diameter(spin);
+      Spin_Diameter(direction);
       break;
     case 4:
-      Step_Humidity(spin);
+      Spin_Humidity(direction);
       break;
     case 5:
-      Step_Length(spin);
+      Spin_Length(direction);
       break;
     default:
       break;
   }
 }
 
-void Warmt::Step_Temperature(int Index, Spin spin) {
+void Warmt::Spin_Temperature(int Index, Direction direction) {
   FieldArray<TextField>& F = Mode_Fields();
   const double v = Val(F(Index).Text());
   const double o = Val(F(1 - Index).Text());
   // The old value is what has to lie inside the range, so that an up click can pass its end.
   const Limits& range = kTemperatureLimits[Index];
-  const bool starts = spin == Spin::kDown ? v > range.least : v < range.most;
-  const double stepped = v + static_cast<int>(spin) * kTemperatureStep;
+  const bool starts = direction == Direction::kDown ? v > range.least : v < range.most;
+  const double stepped = v + static_cast<int>(direction) * kTemperatureStep;
   if (!starts || std::abs(stepped + o) / 2 >= kMeanLimit) return;
   F(Index).Set_Text(Format(stepped, module1_.Locale()));
   Show_Fahrenheit(Index, F(Index));
 }
 
-void Warmt::Step_Dew_Temperature(Spin spin) {
-  Idx_A1 = Next_On_Ring(Idx_A1, static_cast<int>(spin), 1, Dew_Temps);
+void Warmt::Spin_Dew_Temperature(Direction direction) {
+  Idx_A1 = Next_On_Ring(Idx_A1, static_cast<int>(direction), 1, Dew_Temps);
   txtC(1).Set_Text(Format(Entry_Of(Dew_Temps, Idx_A1), module1_.Locale()));
-  if (spin == Spin::kDown) Show_Fahrenheit(1, txtC(1));
+  if (direction == Direction::kDown) Show_Fahrenheit(1, txtC(1));
 }
 
-void Warmt::Step_Thickness(Spin spin) {
+void Warmt::Spin_Thickness(Direction direction) {
   const auto steps = Thick_Steps();
   const double now = Val(txtT(2).Text());
   const auto step_to = [&](std::int16_t mm) {
     txtT(2).Set_Text(Format(mm, module1_.Locale()));
     Show_Inch_Of_Thickness(txtT(2));
   };
-  if (spin == Spin::kDown) {
+  if (direction == Direction::kDown) {
     const auto below =
         std::find_if(steps.rbegin(), steps.rend(), [&](auto mm) { return mm < now; });
     if (below != steps.rend()) step_to(*below);
@@ -121,13 +121,13 @@ void Warmt::Step_Thickness(Spin spin) {
   }
 }
 
-void Warmt::Step_Diameter(Spin spin) {
+void Warmt::Spin_Diameter(Direction direction) {
   TextField& field = Mode_Fields()(3);
   const auto sizes = Pipe_Sizes(module1_.Sel_Size);
   for (std::size_t n = 0; n < sizes.size(); ++n) {
-    const int mm = sizes[spin == Spin::kDown ? sizes.size() - 1 - n : n].mm;
+    const int mm = sizes[direction == Direction::kDown ? sizes.size() - 1 - n : n].mm;
     const double now = Val(field.Text());
-    if (spin == Spin::kDown ? mm < now : mm > now) {
+    if (direction == Direction::kDown ? mm < now : mm > now) {
       field.Set_Text(Format(mm, module1_.Locale()));
       Show_Inch_Of_Diameter(field);
       return;
@@ -137,15 +137,15 @@ void Warmt::Step_Diameter(Spin spin) {
   }
 }
 
-void Warmt::Step_Humidity(Spin spin) {
-  Idx_A4 = Next_On_Ring(Idx_A4, static_cast<int>(spin), kFirstHumidity, Dew_Hums);
+void Warmt::Spin_Humidity(Direction direction) {
+  Idx_A4 = Next_On_Ring(Idx_A4, static_cast<int>(direction), kFirstHumidity, Dew_Hums);
   txtC(4).Set_Text(Format(Entry_Of(Dew_Hums, Idx_A4), module1_.Locale()));
 }
 
-void Warmt::Step_Length(Spin spin) {
+void Warmt::Spin_Length(Direction direction) {
   const norvane::Locale locale = module1_.Locale();
-  txtmtrs.Set_Text(Format(Val(txtmtrs.Text()) + static_cast<int>(spin), locale));
-  if (spin == Spin::kDown && Val(txtmtrs.Text()) == 0) txtmtrs.Set_Text("1");
+  txtmtrs.Set_Text(Format(Val(txtmtrs.Text()) + static_cast<int>(direction), locale));
+  if (direction == Direction::kDown && Val(txtmtrs.Text()) == 0) txtmtrs.Set_Text("1");
 }
 
 }  // namespace norvane

@@ -3,6 +3,7 @@
 #include "frame/shared_state.h"
 #include "frame/text_numbers.h"
 #include "screen/warmt.h"
+#include "totals/calculation_list.h"
 #include "totals/total_form.h"
 
 namespace norvane {
@@ -154,6 +155,12 @@ void Warmt::Click_lblMenu(int Index) {
     default:
       break;
   }
+}
+
+void Warmt::Click_cmdAdd() {
+  picTotal.Set_Visible(true);
+  cmdToolBar0(0).Set_Visible(true);
+  Fill_Calculation_list(module1_, Combo1.Text());
 }
 
 void Warmt::Open_Language() {

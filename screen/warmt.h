@@ -71,8 +71,12 @@ class Warmt : public Form {
   void Click_LblTooltip();
   void Click_lblMenu(int Index);
   void Open_Language();
+  /// Adds what the screen shows to the list of calculations.
+  void Click_cmdAdd();
 
   // kinds.cpp
+  /// Hands the chosen product's lambda to the settings.
+  void Click_Combo1();
   /// Puts the screen into a kind of object, with its defaults.
   void Select_Kind(std::int16_t kind);
   void Select_Lambda(int index);
@@ -157,22 +161,22 @@ class Warmt : public Form {
   bool Shows_Sheet() const;
 
   void Write_Canonically(TextField& field);
-  void Step_Of_Temperature(int Index, TextField& field);
-  void Step_Of_Thickness(TextField& field);
-  void Step_Of_Diameter(TextField& field);
+  void Limit_Temperature(int Index, TextField& field);
+  void Limit_Thickness(TextField& field);
+  void Limit_Diameter(TextField& field);
   void Show_Inch_Of_Thickness(TextField& field);
   void Show_Inch_Of_Diameter(TextField& field);
 
-  enum class Spin { kDown = -1, kUp = 1 };
+  enum class Direction { kDown = -1, kUp = 1 };
   FieldArray<TextField>& Mode_Fields() { return Calc_Mode == "T" ? txtT : txtC; }
-  void Step(int Index, Spin spin);
-  void Step_Temperature(int Index, Spin spin);
-  void Step_Dew_Temperature(Spin spin);
-  void Step_Thickness(Spin spin);
-  void Step_Diameter(Spin spin);
-  void Step_Humidity(Spin spin);
-  void Step_Length(Spin spin);
-  void Close_Step();
+  void Spin_Row(int Index, Direction direction);
+  void Spin_Temperature(int Index, Direction direction);
+  void Spin_Dew_Temperature(Direction direction);
+  void Spin_Thickness(Direction direction);
+  void Spin_Diameter(Direction direction);
+  void Spin_Humidity(Direction direction);
+  void Spin_Length(Direction direction);
+  void Finish_Spin();
 
   void Press(int group, FieldArray<Button>& buttons, int Index);
   void Press_Mode(bool heat_loss);

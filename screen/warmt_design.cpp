@@ -1,9 +1,7 @@
 #include <iterator>
 
-#include "catalogue/products.h"
 #include "frame/shared_state.h"
 #include "screen/warmt.h"
-#include "totals/calculation_list.h"
 
 namespace norvane {
 namespace {
@@ -112,8 +110,8 @@ void Warmt::Connect_Fields() {
     pair.On_Down = [this, index = pair.Index()] { DownClick(index); };
     pair.On_Up = [this, index = pair.Index()] { UpClick(index); };
   }
-  Combo1.On_Click = [this] { Click_Combo1(module1_); };
-  cmdAdd.On_Click = [this] { Click_cmdAdd(module1_); };
+  Combo1.On_Click = [this] { Click_Combo1(); };
+  cmdAdd.On_Click = [this] { Click_cmdAdd(); };
 }
 
 }  // namespace norvane

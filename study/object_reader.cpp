@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "data/csv.h"
+#include "data/text.h"
 
 namespace norvane {
 namespace {
@@ -14,17 +15,11 @@ const Column* Find_Column(std::string_view name) {
   return found == columns.end() ? nullptr : &*found;
 }
 
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 bool Is_Empty(std::string_view field) { return field.find_first_not_of(" \t\"") == field.npos; }
 
 /// -1 for a word that is no kind.
 std::int16_t Kind_Of(std::string_view field) {
-  const std::string text = Field_Text(Trimmed(field));
+  const std::string text = Field_Text(Trim(field, " \t"));
   for (std::size_t kind = 0; kind < kKindWords.size(); ++kind) {
     const char digit = static_cast<char>('0' + kind);
     if (text == kKindWords[kind] || (text.size() == 1 && text.front() == digit)) {
@@ -40,7 +35,7 @@ ObjectReader::ObjectReader(std::span<const std::string_view> header, char decima
                            Question question)
     : decimal_(decimal), question_(question) {
   for (const std::string_view field : header) {
-    const std::string name = Field_Text(Trimmed(field));
+    const std::string name = Field_Text(Trim(field, " \t"));
     const Column* const column = Find_Column(name);
     if (column == nullptr) {
       unknown_.push_back(name);

@@ -72,11 +72,4 @@ std::string Saved_Lines_As_Text(const Module1& module1) {
   return text + '\n';
 }
 
-void Click_cmdAdd(Module1& module1) {
-  Warmt& warmt = *module1.forms.warmt;
-  warmt.picTotal.Set_Visible(true);
-  warmt.cmdToolBar0(0).Set_Visible(true);
-  Fill_Calculation_list(module1, warmt.Combo1.Text());
-}
-
 }  // namespace norvane

@@ -23,7 +23,4 @@ bool Has_Saved_Lines(const Module1& module1);
 /// without lines.
 std::string Saved_Lines_As_Text(const Module1& module1);
 
-/// The button "Add to Total".
-void Click_cmdAdd(Module1& module1);
-
 }  // namespace norvane

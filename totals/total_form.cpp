@@ -5,6 +5,7 @@
 
 #include "calc/conversions.h"
 #include "data/runtime_error.h"
+#include "data/text.h"
 #include "frame/language.h"
 #include "frame/shared_state.h"
 #include "frame/version.h"

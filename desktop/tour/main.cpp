@@ -33,7 +33,7 @@ class Tour {
               place, waiting, [this](const auto& file) { Keep_Workbook(file.string()); });
         }) {}
 
-  void Play();
+  void Walk();
   bool Went_Well() { return desktop_.program().Ended() && !desktop_.program().Failed(); }
 
  private:
@@ -211,7 +211,7 @@ void Tour::Keep_Workbook(const std::string& file) {
   out_ << Qt::endl;
 }
 
-void Tour::Play() {
+void Tour::Walk() {
   desktop_.Start();
   Form& about = State().forms.about.Get();
   Save(about, "0-splash");
@@ -248,6 +248,6 @@ int main(int argc, char** argv) {
     return 2;
   }
   Tour tour(arguments[1].toStdString(), arguments[2]);
-  tour.Play();
+  tour.Walk();
   return tour.Went_Well() ? 0 : 1;
 }

@@ -5,24 +5,50 @@
 
 #include "calc/conversions.h"
 #include "data/runtime_error.h"
-#include "screen/model/form.h"
+#include "screen/model/user_event.h"
 
 namespace norvane {
-
-Field::Field(Form& form, std::string name, int index)
-    : form_(form), name_(std::move(name)), index_(index) {
-  form_.Add(*this);
-}
-
-Field::~Field() = default;
-
-void Field::Notify(Attribute attribute) { form_.Field_Changed(*this, attribute); }
 
 void TextField::Set_Text(const std::string& text) {
   if (text == text_) return;
   text_ = text;
   Notify(Attribute::kText);
   if (On_Change) On_Change();
+}
+
+std::optional<std::string> TextField::Reason_To_Refuse(const UserEvent& event) const {
+  if (event.action != UserAction::kSetText) return Field::Reason_To_Refuse(event);
+  if (locked_) return "the field is locked";
+  return std::nullopt;
+}
+
+void TextField::Carry_Out(const UserEvent& event) {
+  if (event.action != UserAction::kSetText) return Field::Carry_Out(event);
+  Set_Text(event.text);
+}
+
+std::optional<std::string> SpinField::Reason_To_Refuse(const UserEvent& event) const {
+  const bool steps = event.action == UserAction::kDown || event.action == UserAction::kUp;
+  return steps ? std::nullopt : Field::Reason_To_Refuse(event);
+}
+
+void SpinField::Carry_Out(const UserEvent& event) {
+  if (event.action == UserAction::kDown) return Step(-1);
+  if (event.action == UserAction::kUp) return Step(1);
+  Field::Carry_Out(event);
+}
+
+void SpinPair::Step(int direction) {
+  const auto& handler = direction < 0 ? On_Down : On_Up;
+  if (handler) handler();
+}
+
+Stepper::Stepper(Form& form, std::string name, int index, TextField& buddy, int least, int most)
+    : SpinField(form, std::move(name), index), buddy_(buddy), least_(least), most_(most) {}
+
+void Stepper::Step(int direction) {
+  const int stepped = To_Int16(Val(buddy_.Text())) + direction;
+  buddy_.Set_Text(std::to_string(std::clamp(stepped, least_, most_)));
 }
 
 void ListField::Add_Item(const std::string& item) {
@@ -48,12 +74,15 @@ std::string ListField::Text() const {
   return list_index_ < 0 ? std::string() : items_[static_cast<std::size_t>(list_index_)];
 }
 
-Stepper::Stepper(Form& form, std::string name, int index, TextField& buddy, int least, int most)
-    : Field(form, std::move(name), index), buddy_(buddy), least_(least), most_(most) {}
+std::optional<std::string> ListField::Reason_To_Refuse(const UserEvent& event) const {
+  if (event.action != UserAction::kChoose) return Field::Reason_To_Refuse(event);
+  if (event.first < 0 || event.first >= static_cast<int>(items_.size())) return "no such item";
+  return std::nullopt;
+}
 
-void Stepper::Step(int direction) {
-  const int stepped = To_Int16(Val(buddy_.Text())) + direction;
-  buddy_.Set_Text(std::to_string(std::clamp(stepped, least_, most_)));
+void ListField::Carry_Out(const UserEvent& event) {
+  if (event.action != UserAction::kChoose) return Field::Carry_Out(event);
+  Set_ListIndex(event.first);
 }
 
 Tabs::Tabs(Form& form, std::string name, std::vector<std::string> captions)
@@ -75,6 +104,17 @@ const std::string& Tabs::TabCaption(int tab) const {
 void Tabs::Set_TabCaption(int tab, const std::string& caption) {
   if (tab < 0 || tab >= Count()) throw RuntimeError(RuntimeError::kInvalidProcedureCall);
   Assign(captions_[static_cast<std::size_t>(tab)], caption, Attribute::kCaption);
+}
+
+std::optional<std::string> Tabs::Reason_To_Refuse(const UserEvent& event) const {
+  if (event.action != UserAction::kPickTab) return Field::Reason_To_Refuse(event);
+  if (event.first < 0 || event.first >= Count()) return "no such tab";
+  return std::nullopt;
+}
+
+void Tabs::Carry_Out(const UserEvent& event) {
+  if (event.action != UserAction::kPickTab) return Field::Carry_Out(event);
+  Set_Tab(event.first);
 }
 
 }  // namespace norvane

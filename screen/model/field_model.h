@@ -1,122 +1,13 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "screen/model/field.h"
+
 namespace norvane {
-
-class Form;
-
-/// What of a field has changed, for its form's observer.
-enum class Attribute {
-  kText,
-  kCaption,
-  kVisible,
-  kLocked,
-  kBackColor,
-  kBackStyle,
-  kFont,
-  kPicture,
-  kItems,
-  kListIndex,
-  kTab,
-  kCells,
-  kRow,
-  kPlace,
-  kEnabled,
-  kFocus,
-};
-
-/// A colour of the screen, or the colour that the platform gives to entry fields.
-struct BackColor {
-  std::uint8_t red = 0;
-  std::uint8_t green = 0;
-  std::uint8_t blue = 0;
-  bool system = false;
-
-  bool operator==(const BackColor&) const = default;
-};
-
-inline constexpr BackColor kSystemWindow{0, 0, 0, true};
-inline constexpr BackColor kGrey{224, 224, 224};
-inline constexpr BackColor kRed{255, 0, 0};
-inline constexpr BackColor kGreen{17, 176, 105};
-
-/// `charset` is the Windows character set that the text of the field is read by; without one it is
-/// that of the current language.
-struct Font {
-  std::string name = "Arial";
-  double size = 9;  ///< points
-  bool bold = false;
-  std::optional<int> charset;
-
-  bool operator==(const Font&) const = default;
-};
-
-/// Position inside the form or panel, and size, in twips.
-struct Place {
-  double left = 0;
-  double top = 0;
-  double width = 0;
-  double height = 0;
-
-  bool operator==(const Place&) const = default;
-};
-
-/// A named control of a form, or an element of a control array. Setting an attribute tells the
-/// form's observer when the value differs, and does nothing otherwise.
-class Field {
- public:
-  static constexpr int kNoIndex = -1;
-
-  Field(Form& form, std::string name, int index = kNoIndex);
-  virtual ~Field();
-  Field(const Field&) = delete;
-  Field& operator=(const Field&) = delete;
-
-  Form& form() const { return form_; }
-  const std::string& Name() const { return name_; }
-  int Index() const { return index_; }
-
-  bool Visible() const { return visible_; }
-  void Set_Visible(bool visible) { Assign(visible_, visible, Attribute::kVisible); }
-
-  const norvane::Font& Font() const { return font_; }
-  void Set_Font(const norvane::Font& font) { Assign(font_, font, Attribute::kFont); }
-  void Set_Bold(bool bold) { Assign(font_.bold, bold, Attribute::kFont); }
-
-  const norvane::Place& Place() const { return place_; }
-  void Set_Place(const norvane::Place& place) { Assign(place_, place, Attribute::kPlace); }
-
-  /// The panel that the field lies in, and the tab of the form's tabs that shows it, if any.
-  const Field* panel = nullptr;
-  std::optional<int> on_tab;
-
-  /// The user's click and the mouse moving over the field; unset where nothing happens.
-  std::function<void()> On_Click;
-  std::function<void()> On_Hover;
-
- protected:
-  void Notify(Attribute attribute);
-
-  template <class T>
-  void Assign(T& held, const T& value, Attribute attribute) {
-    if (held == value) return;
-    held = value;
-    Notify(attribute);
-  }
-
- private:
-  Form& form_;
-  std::string name_;
-  int index_;
-  bool visible_ = true;
-  norvane::Font font_;
-  norvane::Place place_;
-};
 
 /// A field with a text that the user may type.
 class TextField : public Field {
@@ -138,6 +29,9 @@ class TextField : public Field {
   }
 
   std::function<void()> On_Change;
+
+  std::optional<std::string> Reason_To_Refuse(const UserEvent& event) const override;
+  void Carry_Out(const UserEvent& event) override;
 
  private:
   std::string text_;
@@ -165,19 +59,52 @@ class CaptionField : public Field {
     Assign(back_style_, style, Attribute::kBackStyle);
   }
 
+  bool Takes_Focus() const override { return false; }
+
  private:
   std::string caption_;
   norvane::BackColor back_color_ = kGrey;
   norvane::BackStyle back_style_ = BackStyle::kTransparent;
 };
 
-/// A pair of buttons; each click is one step.
-class SpinPair : public Field {
+/// Two arrows, for a step up and a step down.
+class SpinField : public Field {
  public:
   using Field::Field;
 
+  /// One step up (1) or down (-1).
+  virtual void Step(int direction) = 0;
+
+  std::optional<std::string> Reason_To_Refuse(const UserEvent& event) const override;
+  void Carry_Out(const UserEvent& event) override;
+  bool Takes_Focus() const override { return false; }
+};
+
+/// A pair of arrows whose steps are the program's own.
+class SpinPair : public SpinField {
+ public:
+  using SpinField::SpinField;
+
   std::function<void()> On_Down;
   std::function<void()> On_Up;
+
+  void Step(int direction) override;
+};
+
+/// A pair of arrows that is bound to a text field: a step of 1 inside a range, and no handler of
+/// its own.
+class Stepper : public SpinField {
+ public:
+  Stepper(Form& form, std::string name, int index, TextField& buddy, int least, int most);
+
+  const TextField& Buddy() const { return buddy_; }
+  /// From the field's value rounded to 16 bits, cut to the range.
+  void Step(int direction) override;
+
+ private:
+  TextField& buddy_;
+  int least_;
+  int most_;
 };
 
 enum class ButtonPicture { kPlain, kChosen };
@@ -215,6 +142,8 @@ class PictureField : public Field {
   int Picture() const { return picture_; }
   void Set_Picture(int picture) { Assign(picture_, picture, Attribute::kPicture); }
 
+  bool Takes_Focus() const override { return false; }
+
  private:
   int picture_ = 0;
 };
@@ -237,25 +166,12 @@ class ListField : public Field {
   /// The chosen item's text, empty without one.
   std::string Text() const;
 
+  std::optional<std::string> Reason_To_Refuse(const UserEvent& event) const override;
+  void Carry_Out(const UserEvent& event) override;
+
  private:
   std::vector<std::string> items_;
   int list_index_ = -1;
-};
-
-/// A spin pair that is bound to a text field: a step of 1 inside a range, and no handler of its
-/// own.
-class Stepper : public Field {
- public:
-  Stepper(Form& form, std::string name, int index, TextField& buddy, int least, int most);
-
-  const TextField& Buddy() const { return buddy_; }
-  /// One step up (1) or down (-1) from the field's value rounded to 16 bits, cut to the range.
-  void Step(int direction);
-
- private:
-  TextField& buddy_;
-  int least_;
-  int most_;
 };
 
 /// A row of tabs, one of which is in front.
@@ -270,6 +186,9 @@ class Tabs : public Field {
   int Count() const { return static_cast<int>(captions_.size()); }
   const std::string& TabCaption(int tab) const;
   void Set_TabCaption(int tab, const std::string& caption);
+
+  std::optional<std::string> Reason_To_Refuse(const UserEvent& event) const override;
+  void Carry_Out(const UserEvent& event) override;
 
  private:
   std::vector<std::string> captions_;

@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "data/runtime_error.h"
+#include "data/text.h"
+#include "screen/model/user_event.h"
 
 namespace norvane {
 
@@ -49,17 +51,17 @@ void Grid::Pick_Rows(int from, int to) {
   if (On_Mouse_Up) On_Mouse_Up();
 }
 
-std::vector<std::string> Split(const std::string& text, char separator) {
-  std::vector<std::string> parts;
-  if (text.empty()) return parts;
-  std::size_t begin = 0;
-  for (std::size_t at = text.find(separator); at != std::string::npos;
-       at = text.find(separator, begin)) {
-    parts.push_back(text.substr(begin, at - begin));
-    begin = at + 1;
+std::optional<std::string> Grid::Reason_To_Refuse(const UserEvent& event) const {
+  if (event.action != UserAction::kPickRows) return Field::Reason_To_Refuse(event);
+  for (const int row : {event.first, event.last}) {
+    if (row < 1 || row >= Rows()) return "no such line";
   }
-  parts.push_back(text.substr(begin));
-  return parts;
+  return std::nullopt;
+}
+
+void Grid::Carry_Out(const UserEvent& event) {
+  if (event.action != UserAction::kPickRows) return Field::Carry_Out(event);
+  Pick_Rows(event.first, event.last);
 }
 
 }  // namespace norvane

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "screen/model/field_model.h"
+#include "screen/model/field.h"
 
 namespace norvane {
 
@@ -34,14 +36,14 @@ class Grid : public Field {
   void Pick_Rows(int from, int to);
   std::function<void()> On_Mouse_Up;
 
+  std::optional<std::string> Reason_To_Refuse(const UserEvent& event) const override;
+  void Carry_Out(const UserEvent& event) override;
+
  private:
   std::vector<std::vector<std::string>> rows_;
   std::vector<double> column_widths_;
   int row_ = 0;
   int row_sel_ = 0;
 };
-
-/// The parts of a text between separators; an empty text has none.
-std::vector<std::string> Split(const std::string& text, char separator);
 
 }  // namespace norvane

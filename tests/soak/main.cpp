@@ -37,7 +37,7 @@ class Soak {
         samples_(static_cast<std::size_t>(events / kBetweenLooks)) {}
 
   /// Whether the process stayed as it was.
-  bool Play();
+  bool Run();
 
  private:
   void Play_One_Program();
@@ -56,7 +56,7 @@ class Soak {
   QElapsedTimer clock_;
 };
 
-bool Soak::Play() {
+bool Soak::Run() {
   clock_.start();
   while (played_ < events_) Play_One_Program();
   return Print_End();
@@ -130,7 +130,7 @@ int main(int argc, char** argv) {
   }
   try {
     Soak soak(arguments[1].toStdString(), events, arguments[3].toUInt());
-    return soak.Play() ? 0 : 1;
+    return soak.Run() ? 0 : 1;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
     return 1;

@@ -76,20 +76,20 @@ OfficeProgram::OfficeProgram(PlugIn plug_in, const MakeSpreadsheetHere& make,
 }
 
 void OfficeProgram::Click(Field& field) {
-  ASSERT_EQ(program_->Play({UserAction::kClick, field.form(), &field}), std::nullopt);
+  ASSERT_EQ(program_->Dispatch({UserAction::kClick, field.form(), &field}), std::nullopt);
 }
 
 void OfficeProgram::Add_Pipe(const std::string& thickness) {
   Warmt& warmt = Main_Screen();
   Click(warmt.cmdToolBar1(0));
-  program_->Play({UserAction::kSetText, warmt, &warmt.txtT(2), thickness});
+  program_->Dispatch({UserAction::kSetText, warmt, &warmt.txtT(2), thickness});
   Click(warmt.cmdAdd);
 }
 
 void OfficeProgram::Add_Sheet(const std::string& thickness) {
   Warmt& warmt = Main_Screen();
   Click(warmt.cmdToolBar1(3));
-  program_->Play({UserAction::kSetText, warmt, &warmt.txtT(2), thickness});
+  program_->Dispatch({UserAction::kSetText, warmt, &warmt.txtT(2), thickness});
   Click(warmt.cmdAdd);
 }
 

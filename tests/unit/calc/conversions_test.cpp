@@ -18,7 +18,6 @@ constexpr Locale kPoint{'.'};
 constexpr Locale kComma{','};
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr std::size_t kMegabyte = 1'000'000;
 
 TEST(Locale, GroupsWithTheSignThatIsNotItsDecimalSeparator) {
   EXPECT_EQ(kPoint.Group_Separator(), ',');
@@ -120,25 +119,6 @@ TEST(Fahr, IsExactForEveryOtherTemperature) {
     if (tenths % 10 != 0) exact.append(1, '.').append(std::to_string(std::abs(tenths) % 10));
     ASSERT_EQ(Fahr(static_cast<std::int16_t>(oC), kPoint), exact) << oC;
   }
-}
-
-TEST(Trim, TakesBlanksFromBothEnds) {
-  EXPECT_EQ(Trim("  1/2   "), "1/2");
-  EXPECT_EQ(Trim("1/2"), "1/2");
-}
-
-TEST(Trim, LeavesBlanksInside) { EXPECT_EQ(Trim(" 1 1/4 "), "1 1/4"); }
-
-TEST(Trim, LeavesNothingOfBlanksAlone) {
-  EXPECT_EQ(Trim(""), "");
-  EXPECT_EQ(Trim("    "), "");
-  EXPECT_EQ(Trim(std::string(kMegabyte, ' ')), "");
-}
-
-TEST(Trim, TakesNoOtherWhiteSpace) {
-  EXPECT_EQ(Trim("\t1\n"), "\t1\n");
-  EXPECT_EQ(Trim(" \r\n "), "\r\n");
-  EXPECT_EQ(Trim("\xA0x\xA0"), "\xA0x\xA0");
 }
 
 TEST(Divide, IsAPlainDivision) { EXPECT_EQ(Divide(1.0, 8.0), 0.125); }

@@ -27,7 +27,7 @@ class AScript : public testing::Test {
     std::ostringstream errors;
     HeadlessPlatform platform(folder_.Path(), '.', out);
     Script script(platform, in, out, errors);
-    const int status = static_cast<int>(script.Play());
+    const int status = static_cast<int>(script.Run());
     out_ = out.str();
     errors_ = errors.str();
     return status;

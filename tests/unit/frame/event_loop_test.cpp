@@ -42,7 +42,7 @@ class AnEventLoop : public testing::Test {
   void Tick_Three_Times() {
     for (int i = 0; i < 3; ++i) program_.Tick(forms().about->Timer1);
   }
-  void Click(Field& field) { program_.Play({UserAction::kClick, field.form(), &field}); }
+  void Click(Field& field) { program_.Dispatch({UserAction::kClick, field.form(), &field}); }
   Forms& forms() { return program_.State().forms; }
 
   TestFolder folder_;

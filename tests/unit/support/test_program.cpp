@@ -17,7 +17,7 @@ void TestProgram::Start() {
 }
 
 std::optional<std::string> TestProgram::Set(TextField& field, const std::string& text) {
-  return program.Play({UserAction::kSetText, field.form(), &field, text});
+  return program.Dispatch({UserAction::kSetText, field.form(), &field, text});
 }
 
 std::optional<std::string> TestProgram::Click(Field& field) {
@@ -29,11 +29,11 @@ std::optional<std::string> TestProgram::Down(Field& field) { return Act(UserActi
 std::optional<std::string> TestProgram::Up(Field& field) { return Act(UserAction::kUp, field); }
 
 std::optional<std::string> TestProgram::Act(UserAction action, Field& field, int first, int last) {
-  return program.Play({action, field.form(), &field, {}, first, last});
+  return program.Dispatch({action, field.form(), &field, {}, first, last});
 }
 
 std::optional<std::string> TestProgram::Act(UserAction action, Form& form) {
-  return program.Play({action, form});
+  return program.Dispatch({action, form});
 }
 
 std::string TestProgram::Printed() {

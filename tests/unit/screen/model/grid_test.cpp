@@ -12,8 +12,6 @@
 namespace norvane {
 namespace {
 
-using Texts = std::vector<std::string>;
-
 class AGrid : public testing::Test {
  protected:
   AGrid() {
@@ -93,14 +91,6 @@ TEST_F(AGrid, BeginsAnewWithoutASelection) {
   EXPECT_EQ(grid_.Row(), 0);
   EXPECT_EQ(grid_.RowSel(), 0);
 }
-
-TEST(ASplitText, HasOnePartMoreThanSeparators) {
-  EXPECT_EQ(Split("a~b~c", '~'), (Texts{"a", "b", "c"}));
-  EXPECT_EQ(Split("~a~~", '~'), (Texts{"", "a", "", ""}));
-  EXPECT_EQ(Split("abc", '~'), Texts{"abc"});
-}
-
-TEST(ASplitText, HasNoPartsWhenItIsEmpty) { EXPECT_EQ(Split("", '~'), Texts{}); }
 
 }  // namespace
 }  // namespace norvane

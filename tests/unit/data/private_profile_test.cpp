@@ -1,4 +1,4 @@
-#include "frame/private_profile.h"
+#include "data/private_profile.h"
 
 #include <gtest/gtest.h>
 

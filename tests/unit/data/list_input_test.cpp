@@ -1,4 +1,4 @@
-#include "frame/list_input.h"
+#include "data/list_input.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,8 @@
-#include "frame/list_input.h"
+#include "data/list_input.h"
 
 #include <algorithm>
+
+#include "data/text.h"
 
 namespace norvane {
 namespace {
@@ -22,8 +24,7 @@ std::optional<std::string> ListInput::Next_Field() {
   } else {
     const std::size_t begin = at_;
     at_ = std::min(file_.find_first_of(",\r\n", begin), file_.size());
-    const std::string_view raw = file_.substr(begin, at_ - begin);
-    field = raw.substr(0, raw.find_last_not_of(kBlanks) + 1);
+    field = Trim(file_.substr(begin, at_ - begin), kBlanks);
   }
   if (!At_End() && file_[at_] == ',') {
     ++at_;

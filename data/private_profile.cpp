@@ -1,8 +1,8 @@
-#include "frame/private_profile.h"
+#include "data/private_profile.h"
 
 #include <algorithm>
 
-#include "calc/conversions.h"
+#include "data/text.h"
 
 namespace norvane {
 namespace {
@@ -10,11 +10,7 @@ namespace {
 constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kLineEnds = "\r\n";
 
-std::string_view Without_Blanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
+std::string_view Bare(std::string_view text) { return Trim(text, kBlanks); }
 
 bool Same_Name(std::string_view a, std::string_view b) { return Lower(a) == Lower(b); }
 
@@ -32,11 +28,11 @@ Line Line_At(std::string_view file, std::size_t begin) {
 }
 
 std::optional<std::string_view> Section_Name(std::string_view line) {
-  const std::string_view text = Without_Blanks(line);
+  const std::string_view text = Bare(line);
   if (text.empty() || text.front() != '[') return std::nullopt;
   const std::size_t close = text.find(']');
   if (close == std::string_view::npos) return std::nullopt;
-  return Without_Blanks(text.substr(1, close - 1));
+  return Bare(text.substr(1, close - 1));
 }
 
 /// Where a key stands, or where it would be put.
@@ -59,11 +55,10 @@ Found Find(std::string_view file, std::string_view section, std::string_view key
       found.section_end = line.next;
       continue;
     }
-    if (!found.section || Without_Blanks(text).empty()) continue;
+    if (!found.section || Bare(text).empty()) continue;
     found.section_end = line.next;
     const std::size_t equals = text.find('=');
-    if (equals != std::string_view::npos &&
-        Same_Name(Without_Blanks(text.substr(0, equals)), key)) {
+    if (equals != std::string_view::npos && Same_Name(Bare(text.substr(0, equals)), key)) {
       found.key = line;
       break;
     }
@@ -85,7 +80,7 @@ std::optional<std::string> Get_Private_Profile_String(std::string_view file,
   const Found found = Find(file, section, key);
   if (!found.key) return std::nullopt;
   const std::string_view text = file.substr(found.key->begin, found.key->end - found.key->begin);
-  return std::string(Without_Blanks(text.substr(text.find('=') + 1)));
+  return std::string(Bare(text.substr(text.find('=') + 1)));
 }
 
 std::string Write_Private_Profile_String(std::string_view file, std::string_view section,

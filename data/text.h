@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvane {
+
+/// `text` with its ASCII letters in lower case.
+std::string Lower(std::string_view text);
+
+/// `text` without the `blanks` at its ends, which are spaces unless said otherwise.
+std::string_view Trim(std::string_view text, std::string_view blanks = " ");
+
+/// The parts of a text between separators; an empty text has none.
+std::vector<std::string> Split(std::string_view text, char separator);
+
+}  // namespace norvane
