@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "data/text.h"
 #include "frame/lang_form.h"
 #include "input.h"
 #include "require.h"

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "calc/conversions.h"
+#include "data/text.h"
 
 namespace norvane {
 namespace {

@@ -5,6 +5,7 @@
 #include "calc/conversions.h"
 #include "calc/heat_loss.h"
 #include "data/runtime_error.h"
+#include "data/text.h"
 #include "driver/form_names.h"
 #include "driver/values.h"
 #include "require.h"

@@ -9,6 +9,7 @@
 
 #include "../support/test_program.h"
 #include "catalogue/settings_form.h"
+#include "data/text.h"
 #include "frame/lang_form.h"
 #include "frame/settings_file.h"
 

@@ -25,7 +25,8 @@ class Slider : public Field {
     return std::nullopt;
   }
   void Carry_Out(const UserEvent& event) override {
-    if (event.action == UserAction::kChoose) value = event.first;
+    if (event.action != UserAction::kChoose) return Field::Carry_Out(event);
+    value = event.first;
   }
 
   int value = 50;
@@ -89,7 +90,9 @@ TEST_F(AnEventOfAUser, IsRefusedByEveryOtherKindInTheWordsOfTheAction) {
     if (field != &list_ && field != &slider_) {
       EXPECT_EQ(Act(UserAction::kChoose, *field), "not a list") << field->Name();
     }
-    if (field != &tabs_) EXPECT_EQ(Act(UserAction::kPickTab, *field), "no tabs") << field->Name();
+    if (field != &tabs_) {
+      EXPECT_EQ(Act(UserAction::kPickTab, *field), "no tabs") << field->Name();
+    }
     if (field != &grid_) {
       EXPECT_EQ(Act(UserAction::kPickRows, *field, 1, 1), "not a grid") << field->Name();
     }
@@ -131,7 +134,7 @@ TEST_F(AnEventOfAUser, RaisesTheHandlerOfAnyKind) {
     field->On_Hover = [&] { raised += "hover "; };
     EXPECT_EQ(Act(UserAction::kClick, *field), kCarriedOut);
     EXPECT_EQ(Act(UserAction::kHover, *field), kCarriedOut);
-    if (field != &slider_) EXPECT_EQ(raised, "click hover ") << field->Name();
+    EXPECT_EQ(raised, "click hover ") << field->Name();
   }
 }
 
