@@ -148,7 +148,9 @@ void Require_Total(Module1& module1) {
   if (!module1.forms.total.Loaded()) return;
   Total& total = *module1.forms.total;
   if (!total.Is_Active()) return;
-  Require(!total.Close_On_Activation, "an empty list of totals isn't shown");
+  // One that was emptied while the screen was open leaves its rows until the next activation.
+  Require(!total.Close_On_Activation || total.grdResult.Rows() > 1,
+          "an empty list of totals isn't shown");
   // A language that was chosen behind the screen has taken all lines from behind its rows.
   const int elements = static_cast<int>(module1.Calc_List.size());
   Require(total.grdResult.Rows() + 1 == elements || elements == 2, "the grid shows the list");

@@ -48,12 +48,13 @@ void Total::Load() {
 }
 
 void Total::Activate() {
+  // The flag is of the fill before: what this one finds closes the form at the next activation.
+  if (Close_On_Activation) module1_.forms.total.Unload();
   if (First_Activation) {
     First_Activation = false;
   } else {
     Fill_Total_Table();
   }
-  if (Close_On_Activation) module1_.forms.total.Unload();
 }
 
 void Total::Resize() {

@@ -39,7 +39,7 @@ class Total : public Form {
 
   std::string Sums_Text;
   bool First_Activation = false;     ///< from Load to the first Activate
-  bool Close_On_Activation = false;  ///< nothing to show
+  bool Close_On_Activation = false;  ///< the last fill found nothing to show
 
  private:
   void Fill_Captions();
