@@ -16,7 +16,6 @@ namespace {
 
 constexpr int kEntryHeight = 27;
 constexpr int kNameWidth = 104;
-constexpr int kShownEntries = 16;  // the others fall off the form
 
 /// The mark beside a language. It is drawn, since not every font has such a sign.
 class TickMark : public QWidget {
@@ -64,7 +63,9 @@ QWidget* LanguageView::Make_List(Lang& lang) {
   rows->addWidget(exit, 0, 1, Qt::AlignRight);
   Bind<PictureBinder>(lang.imgExit, *exit);
   auto* entries = new QGridLayout;
-  for (int i = 0; i < kShownEntries; ++i) entries->addWidget(Make_Entry(lang, i), i / 2, i % 2);
+  for (int i = 0; i <= lang.Label2.UBound() && !lang.Label2(i).out_of_reach; ++i) {
+    entries->addWidget(Make_Entry(lang, i), i / 2, i % 2);
+  }
   rows->addLayout(entries, 1, 0, 1, 2);
   return list;
 }

@@ -20,6 +20,7 @@ constexpr double kButtonHeight = 345;
 constexpr double kExitSize = 225;
 
 constexpr int kMarkOfTheDesign = 7;
+constexpr int kFirstBelowTheEdge = 16;
 
 }  // namespace
 
@@ -29,6 +30,7 @@ Lang::Lang(Module1& module1) : Form(module1.desk, "Lang", kWidth, kHeight), modu
   Label3(0).Set_Caption("3.0.99");
   for (CaptionField& name : Label2) {
     name.Set_Visible(name.Index() == 0);
+    name.out_of_reach = name.Index() >= kFirstBelowTheEdge;
     name.On_Click = [this, index = name.Index()] { Click_Label2(index); };
   }
   for (CaptionField& version : Label3) version.Set_Visible(version.Index() == 0);

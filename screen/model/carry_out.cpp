@@ -40,6 +40,7 @@ std::optional<std::string> Reason_To_Refuse(const Desk& desk, const UserEvent& e
   if (event.action == UserAction::kCloseBox && !event.form.has_close_box) return "no close box";
   if (event.field == nullptr) return std::nullopt;
   if (!event.form.Shows(*event.field)) return "the field isn't visible";
+  if (event.field->out_of_reach) return "the field lies outside the form";
   return event.field->Reason_To_Refuse(event);
 }
 

@@ -95,6 +95,9 @@ class Field {
   const Field* panel = nullptr;
   std::optional<int> on_tab;
 
+  /// The field lies outside its form, where no user reaches it.
+  bool out_of_reach = false;
+
   /// The user's click and the mouse moving over the field; unset where nothing happens.
   std::function<void()> On_Click;
   std::function<void()> On_Hover;

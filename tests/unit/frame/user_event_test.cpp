@@ -71,6 +71,12 @@ TEST_F(AUserEvent, OnAFieldOfAnInvisiblePanelIsRefused) {
   EXPECT_EQ(program_.Click(warmt_.LblTooltip), kCarriedOut);
 }
 
+TEST_F(AUserEvent, OnAFieldOutsideItsFormIsRefused) {
+  warmt_.cmdAdd.out_of_reach = true;
+  EXPECT_TRUE(Refused(program_.Click(warmt_.cmdAdd)));
+  EXPECT_TRUE(Refused(program_.Act(UserAction::kHover, warmt_.cmdAdd)));
+}
+
 TEST_F(AUserEvent, OnALockedFieldIsRefused) {
   ASSERT_EQ(program_.Click(warmt_.cmdToolBarC), kCarriedOut);
   for (const int locked : {1, 4}) {
