@@ -44,10 +44,13 @@ void Desk::Loaded(Form& form) { display_.Form_Loaded(form); }
 void Desk::Unload(std::unique_ptr<Form> form) {
   Form& leaving = *form;
   unloaded_.push_back(std::move(form));
-  if (focus_ != nullptr && &focus_->form() == &leaving) focus_ = nullptr;
   display_.Form_Unloaded(leaving);
   leaving.Set_Observer(nullptr);
-  if (leaving.Shown()) Take_Away(leaving);
+  if (leaving.Shown()) {
+    Take_Away(leaving);
+  } else if (focus_ != nullptr && &focus_->form() == &leaving) {
+    Give_Back_Focus();
+  }
 }
 
 void Desk::Forget_Unloaded() { unloaded_.clear(); }
@@ -60,6 +63,7 @@ void Desk::Let_Events_Run() {
 void Desk::Set_Focus(Field& field) {
   if (!field.form().Shows(field)) throw RuntimeError(RuntimeError::kInvalidProcedureCall);
   focus_ = &field;
+  field.form().focus_ = &field;
   field.form().Field_Changed(field, Attribute::kFocus);
 }
 
@@ -83,8 +87,11 @@ void Desk::Take_Away(Form& form) {
   std::erase(modal_, &form);
   form.shown_ = false;
   form.Notify(FormAttribute::kShown);
+  Give_Back_Focus();
   if (was_active && !shown_.empty()) Make_Active(*shown_.back());
 }
+
+void Desk::Give_Back_Focus() { focus_ = Active() == nullptr ? nullptr : Active()->focus_; }
 
 void Desk::Require_Running() const {
   if (ended_) throw ProgramEnd{};

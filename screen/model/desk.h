@@ -43,6 +43,8 @@ class Desk {
   /// Lets the display report what is pending. Throws `ProgramEnd` when that ended the program.
   void Let_Events_Run();
 
+  /// The field that has the focus, or null. When a form goes, it is the field that had it in the
+  /// form that is then in front.
   Field* Focus() const { return focus_; }
   /// Throws `RuntimeError` 5 when the user can't see the field.
   void Set_Focus(Field& field);
@@ -56,6 +58,7 @@ class Desk {
  private:
   void Make_Active(Form& form);
   void Take_Away(Form& form);
+  void Give_Back_Focus();
   void Require_Running() const;
 
   Display& display_;

@@ -104,6 +104,7 @@ class Form {
   bool shown_ = false;
   bool sized_ = false;
   std::vector<Field*> fields_;
+  Field* focus_ = nullptr;  // the one that had the focus last
   FormObserver* observer_ = nullptr;
 };
 

@@ -86,6 +86,40 @@ TEST_F(ADesk, HidesAFormThatIsNotShownWithoutAWord) {
   EXPECT_TRUE(a_.Is_Active());
 }
 
+TEST_F(ADesk, GivesTheFocusBackToTheFormThatComesToTheFront) {
+  a_.Show();
+  desk_.desk.Set_Focus(a_.Text1);
+  desk_.desk.Set_Focus(a_.Text2);
+  b_.Show();
+  desk_.desk.Set_Focus(b_.Text1);
+  c_.Show();
+  desk_.desk.Set_Focus(c_.Text1);
+  b_.Hide();
+  EXPECT_EQ(desk_.desk.Focus(), &c_.Text1);
+  c_.Hide();
+  EXPECT_EQ(desk_.desk.Focus(), &a_.Text2);
+  a_.Hide();
+  EXPECT_EQ(desk_.desk.Focus(), nullptr);
+}
+
+TEST_F(ADesk, HasNoFocusWhereTheFormThatComesToTheFrontHadNone) {
+  a_.Show();
+  b_.Show();
+  desk_.desk.Set_Focus(b_.Text1);
+  b_.Hide();
+  EXPECT_EQ(desk_.desk.Focus(), nullptr);
+}
+
+TEST_F(ADesk, GivesTheFocusBackBeforeTheActivateOfTheFormThatComesToTheFront) {
+  a_.Show();
+  desk_.desk.Set_Focus(a_.Text1);
+  b_.Show();
+  desk_.desk.Set_Focus(b_.Text1);
+  a_.on_activate = [&] { desk_.desk.Set_Focus(a_.Text2); };
+  b_.Hide();
+  EXPECT_EQ(desk_.desk.Focus(), &a_.Text2);
+}
+
 TEST_F(ADesk, TellsTheObserverOfAFormWhenItIsShownAndWhenItIsActive) {
   std::vector<FormAttribute> told;
   const Watch watch(

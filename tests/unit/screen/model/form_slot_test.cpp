@@ -166,5 +166,15 @@ TEST_F(AFormOnce, LosesTheFocusWhenItIsUnloaded) {
   EXPECT_EQ(desk_.desk.Focus(), nullptr);
 }
 
+TEST_F(AFormOnce, GivesTheFocusToTheFormInFrontWhenItIsUnloadedUnseen) {
+  LoggedForm front(desk_.desk, desk_.log, "Front");
+  Slot slot(desk_.desk, desk_.Maker("Form"));
+  front.Show();
+  desk_.desk.Set_Focus(front.Text2);
+  desk_.desk.Set_Focus(slot->Text1);
+  slot.Unload();
+  EXPECT_EQ(desk_.desk.Focus(), &front.Text2);
+}
+
 }  // namespace
 }  // namespace norvane
