@@ -60,6 +60,15 @@ StateName Screen_Element(Member member) {
           }};
 }
 
+/// An entry of a list whose empty entries have an empty text.
+template <class Member>
+StateName Screen_Entry(Member member) {
+  return {1, [member](Module1& m, const Indices& at) {
+            const auto& entry = Element((*m.forms.warmt).*member, at[0]);
+            return entry ? Printed(*entry) : std::string();
+          }};
+}
+
 template <class Member>
 StateName Language_Entry(Member member) {
   return {1, [member](Module1& m, const Indices& at) {
@@ -92,8 +101,8 @@ const std::map<std::string, StateName>& State_Names() {
       {"First_Warmt", Screen_Flag(&Warmt::First_Warmt)},
       {"First_Condens", Screen_Flag(&Warmt::First_Condens)},
       {"Hover_Index", Screen_Element(&Warmt::Hover_Index)},
-      {"Dew_Temps", Screen_Element(&Warmt::Dew_Temps)},
-      {"Dew_Hums", Screen_Element(&Warmt::Dew_Hums)},
+      {"Dew_Temps", Screen_Entry(&Warmt::Dew_Temps)},
+      {"Dew_Hums", Screen_Entry(&Warmt::Dew_Hums)},
       {"Lang_Code", Language_Entry(&LanguageTables::Lang_Code)},
       {"Lang_FontName", Language_Entry(&LanguageTables::Lang_FontName)},
       {"Lang_Charset", Language_Entry(&LanguageTables::Lang_Charset)},

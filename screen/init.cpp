@@ -53,9 +53,9 @@ void Warmt::Init_toolbar() {
 
 void Warmt::Fill_Dew_Point_Arrays() {
   const int rows = Number_In(401);
-  Dew_Temps.assign(static_cast<std::size_t>(rows) + 1, 0.0);
+  Dew_Temps.assign(static_cast<std::size_t>(rows) + 1, std::nullopt);
   for (int i = 1; i <= rows; ++i) {
-    double& temperature = Dew_Temps[static_cast<std::size_t>(i)];
+    auto& temperature = Dew_Temps[static_cast<std::size_t>(i)];
     temperature = Val(String_Table(Dew_Cell_Id(i, 1)));
     if (temperature == kStartTemperature) {
       Idx_A1 = static_cast<std::int16_t>(i);
@@ -63,9 +63,9 @@ void Warmt::Fill_Dew_Point_Arrays() {
     }
   }
   const int columns = Number_In(402);
-  Dew_Hums.assign(static_cast<std::size_t>(columns) + 1, 0.0);
+  Dew_Hums.assign(static_cast<std::size_t>(columns) + 1, std::nullopt);
   for (int j = 1; j <= columns; ++j) {
-    double& humidity = Dew_Hums[static_cast<std::size_t>(j)];
+    auto& humidity = Dew_Hums[static_cast<std::size_t>(j)];
     humidity = Val(String_Table(Dew_Cell_Id(0, j)));
     if (humidity == kStartHumidity) {
       Idx_A4 = static_cast<std::int16_t>(j);

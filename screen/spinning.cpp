@@ -14,20 +14,23 @@ constexpr double kTemperatureStep = 5;  // degrees Celsius
 constexpr double kMeanLimit = 105;      // degrees Celsius
 constexpr int kFirstHumidity = 3;       // the columns before it hold no humidity
 
+using Entries = std::vector<std::optional<double>>;
+
 /// The next index on a ring of `first` to the last of `list`.
-std::int16_t Next_On_Ring(std::int16_t index, int direction, int first,
-                          const std::vector<double>& list) {
+std::int16_t Next_On_Ring(std::int16_t index, int direction, int first, const Entries& list) {
   const int last = static_cast<int>(list.size()) - 1;
   const std::int16_t next = To_Int16(index + direction);
   if (direction < 0) return next < first ? static_cast<std::int16_t>(last) : next;
   return next > last ? static_cast<std::int16_t>(first) : next;
 }
 
-double Entry_Of(const std::vector<double>& list, int index) {
+/// The entry as a text, empty for the empty one.
+std::string Text_Of_Entry(const Entries& list, int index, const Locale& locale) {
   if (index < 0 || index >= static_cast<int>(list.size())) {
     throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
   }
-  return list[static_cast<std::size_t>(index)];
+  const auto& entry = list[static_cast<std::size_t>(index)];
+  return entry ? Format(*entry, locale) : "";
 }
 
 }  // namespace
@@ -100,7 +103,7 @@ void Warmt::Spin_Temperature(int Index, Direction direction) {
 
 void Warmt::Spin_Dew_Temperature(Direction direction) {
   Idx_A1 = Next_On_Ring(Idx_A1, static_cast<int>(direction), 1, Dew_Temps);
-  txtC(1).Set_Text(Format(Entry_Of(Dew_Temps, Idx_A1), module1_.Locale()));
+  txtC(1).Set_Text(Text_Of_Entry(Dew_Temps, Idx_A1, module1_.Locale()));
   if (direction == Direction::kDown) Show_Fahrenheit(1, txtC(1));
 }
 
@@ -139,7 +142,7 @@ void Warmt::Spin_Diameter(Direction direction) {
 
 void Warmt::Spin_Humidity(Direction direction) {
   Idx_A4 = Next_On_Ring(Idx_A4, static_cast<int>(direction), kFirstHumidity, Dew_Hums);
-  txtC(4).Set_Text(Format(Entry_Of(Dew_Hums, Idx_A4), module1_.Locale()));
+  txtC(4).Set_Text(Text_Of_Entry(Dew_Hums, Idx_A4, module1_.Locale()));
 }
 
 void Warmt::Spin_Length(Direction direction) {

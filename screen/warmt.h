@@ -132,10 +132,12 @@ class Warmt : public Form {
   bool First_Warmt = false;    ///< heat-loss defaults still to be applied
   bool First_Condens = false;  ///< condensation defaults still to be applied
 
-  std::int16_t Idx_A1 = 0;        ///< row of `Dew_Temps` that mode "C" stands at
-  std::int16_t Idx_A4 = 0;        ///< column of `Dew_Hums` that mode "C" stands at
-  std::vector<double> Dew_Temps;  ///< degrees Celsius by row, from 1
-  std::vector<double> Dew_Hums;   ///< percent by column, from 1; 0 where a column holds none
+  std::int16_t Idx_A1 = 0;  ///< row of `Dew_Temps` that mode "C" stands at
+  std::int16_t Idx_A4 = 0;  ///< column of `Dew_Hums` that mode "C" stands at
+  /// Degrees Celsius by row, and percent by column, 0 where a column holds none. Both count from 1;
+  /// their index 0 is empty.
+  std::vector<std::optional<double>> Dew_Temps;
+  std::vector<std::optional<double>> Dew_Hums;
   norvane::Dew_Table Dew_Table;
 
   std::int16_t Hover_Group = 0;               ///< the toolbar group that the mouse was last over
