@@ -1,5 +1,7 @@
 #include "driver/values.h"
 
+#include <cmath>
+
 #include "calc/conversions.h"
 #include "data/runtime_error.h"
 #include "driver/form_names.h"
@@ -140,7 +142,10 @@ std::optional<std::string> Form_Value(const Module1& module1, const Form& form,
 
 std::string Printed(bool flag) { return flag ? "true" : "false"; }
 
-std::string Printed(double number) { return Format(number, Locale{}); }
+std::string Printed(double number) {
+  if (std::isinf(number)) return number < 0 ? "-inf" : "inf";
+  return Format(number, Locale{});
+}
 
 std::string Printed(float single) { return Text_Of_Single(single, Locale{}); }
 

@@ -19,6 +19,7 @@ std::optional<std::string> Text_Of(const Module1& module1, const Field& field);
 std::optional<std::string> State_Value(Module1& module1, const std::vector<NamePart>& parts);
 
 std::string Printed(bool flag);
+/// The number with a point, "inf" or "-inf" where it is infinite.
 std::string Printed(double number);
 std::string Printed(float single);
 
