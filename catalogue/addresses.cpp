@@ -39,12 +39,21 @@ void Read_Pairs(Module1& module1, int address, std::string_view file) {
   }
 }
 
+/// The number in a file's name; 0 where it has none, or one beyond 16 bits.
+std::int16_t Number_Of(const std::string& name) {
+  try {
+    return To_Int16(Val(name.substr(7, 3)));
+  } catch (const RuntimeError&) {
+    return 0;
+  }
+}
+
 }  // namespace
 
 void Load_Addresses(Module1& module1) {
   module1.Address_Table.fill("");
   for (const std::string& name : module1.platform.files().List("Address*.txt")) {
-    const std::int16_t number = To_Int16(Val(name.substr(7, 3)));
+    const std::int16_t number = Number_Of(name);
     if (number > 0) {
       const auto file = module1.platform.files().Read(name);
       if (!file) return;
