@@ -205,13 +205,15 @@ QString Desktop::Text(const std::string& bytes) const {
   return QString::fromStdString(To_Utf8(bytes, Current_Charset()));
 }
 
-QStringList Desktop::In_All_Languages(int text) const {
+QString Desktop::Text(TextId text) const { return Text(program_.State().Text(text)); }
+
+QStringList Desktop::In_All_Languages(TextId text) const {
   const LanguageTables& languages = program_.State().languages;
   QStringList texts;
-  for (std::size_t slot = 0; slot < LanguageTables::kSlots; ++slot) {
-    if (!languages.Lang_Code[slot]) continue;
-    const std::string& bytes = languages.Lang_Text[slot][static_cast<std::size_t>(text)];
-    texts << QString::fromStdString(To_Utf8(bytes, Charset_Of(slot)));
+  for (int slot = 0; slot < LanguageTables::kSlots; ++slot) {
+    const auto at = static_cast<std::size_t>(slot);
+    if (!languages.Lang_Code[at]) continue;
+    texts << QString::fromStdString(To_Utf8(languages.Text(slot, text), Charset_Of(at)));
   }
   return texts;
 }

@@ -63,8 +63,9 @@ class Desktop : public Platform, public Display {
   /// The character set of texts that have none of their own.
   int Current_Charset() const;
   QString Text(const std::string& bytes) const;
+  QString Text(TextId text) const;
   /// A text of the program as each language that was found has it.
-  QStringList In_All_Languages(int text) const;
+  QStringList In_All_Languages(TextId text) const;
 
  private:
   /// Calls the program and shows what came of it. Calls are nested where the program lets events

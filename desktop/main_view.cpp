@@ -85,7 +85,7 @@ void MainView::Arrange() {
   object_->Name_Fields();
   tools_->Name_Buttons();
   const Button& mode = warmt_.Calc_Mode == "T" ? warmt_.cmdToolBarT : warmt_.cmdToolBarC;
-  results_->Name_Values(desktop().Text(desktop().program().State().Text(mode.tooltip_text)));
+  results_->Name_Values(desktop().Text(warmt_.Tooltip_Of(mode)));
 }
 
 }  // namespace norvane

@@ -54,8 +54,7 @@ void ObjectCard::Name_Fields() {
   const QString kind = view_.desktop().Text(warmt_.Label0.Caption());
   Tell(*view_.Widget_Of(warmt_.Combo1), kind);
   Tell(*view_.Widget_Of(warmt_.Picture2), kind);
-  const QString show_totals =
-      view_.desktop().Text(module1.Text(warmt_.cmdToolBar0(0).tooltip_text));
+  const QString show_totals = view_.desktop().Text(warmt_.Tooltip_Of(warmt_.cmdToolBar0(0)));
   const QString waiting = QString("%1: %2").arg(show_totals).arg(Count_Saved_Lines(module1));
   Tell(*total_, waiting);
   if (total_->toolTip() != waiting) total_->setToolTip(waiting);

@@ -98,7 +98,7 @@ void ToolStrip::Size_Tooltip() {
   const QString shown = text.text();
   QSize longest;
   for (const auto& [field, button] : buttons_) {
-    for (const QString& tip : view_.desktop().In_All_Languages(field->tooltip_text)) {
+    for (const QString& tip : view_.desktop().In_All_Languages(warmt_.Tooltip_Of(*field))) {
       text.setText(With_Letter(tip, {}));
       longest = longest.expandedTo(text.sizeHint());
     }
@@ -110,8 +110,7 @@ void ToolStrip::Size_Tooltip() {
 
 void ToolStrip::Name_Buttons() {
   for (const auto& [field, button] : buttons_) {
-    const std::string& text = view_.desktop().program().State().Text(field->tooltip_text);
-    Tell(*button, view_.desktop().Text(text));
+    Tell(*button, view_.desktop().Text(warmt_.Tooltip_Of(*field)));
   }
 }
 

@@ -5,17 +5,17 @@
 #include "frame/lang_form.h"
 #include "frame/language.h"
 #include "frame/shared_state.h"
-#include "frame/text_numbers.h"
+#include "frame/text_id.h"
 #include "screen/warmt.h"
 #include "totals/calculation_list.h"
 
 namespace norvane {
 namespace {
 
-/// A caption field of an array or alone, and the text number that it shows.
+/// A caption field of an array or alone, and the text that it shows.
 struct NumberedText {
   CaptionField& field;
-  int text;
+  TextId text;
 };
 
 void Set_Captions(const Module1& module1, std::initializer_list<NumberedText> texts) {
@@ -23,49 +23,49 @@ void Set_Captions(const Module1& module1, std::initializer_list<NumberedText> te
 }
 
 void Set_Main_Captions(Module1& module1, Warmt& warmt) {
-  std::string name = module1.Text(0);
+  std::string name = module1.Text(TextId::kLanguageName);
   std::replace(name.begin(), name.end(), '-', ' ');
   warmt.Label10.Set_Caption(name);
   warmt.lblMenu(0).Set_Caption("");
   warmt.Label7(4).Set_Caption("");
   const std::int16_t kind = module1.Sel_Size;
-  const int heat_flow_unit = Heat_Flow_Unit_Text(kind);
+  const TextId heat_flow_unit = Heat_Flow_Unit_Text(kind);
   auto& w = warmt;
-  Set_Captions(module1, {{w.lblMenu(1), 12},
-                         {w.lblMenu(2), 32},
-                         {w.lblMenu(3), 4},
-                         {w.Label1(0), 18},
-                         {w.Label1(1), 19},
-                         {w.Label1(2), 20},
-                         {w.Label1(3), 21},
-                         {w.Label1(4), 36},
-                         {w.Label7(0), 69},
-                         {w.Label7(1), 69},
-                         {w.Label7(2), 71},
-                         {w.Label7(3), 71},
-                         {w.Label8(0), 70},
-                         {w.Label8(1), 70},
-                         {w.Label8(2), 72},
-                         {w.Label8(3), 72},
+  Set_Captions(module1, {{w.lblMenu(1), TextId::kMenuLanguage},
+                         {w.lblMenu(2), TextId::kMenuAddresses},
+                         {w.lblMenu(3), TextId::kMenuExit},
+                         {w.Label1(0), TextId::kMediumTemperature},
+                         {w.Label1(1), TextId::kAmbientTemperature},
+                         {w.Label1(2), TextId::kInsulationThickness},
+                         {w.Label1(3), TextId::kPipeDiameter},
+                         {w.Label1(4), TextId::kRelativeHumidity},
+                         {w.Label7(0), TextId::kCelsius},
+                         {w.Label7(1), TextId::kCelsius},
+                         {w.Label7(2), TextId::kMillimetre},
+                         {w.Label7(3), TextId::kMillimetre},
+                         {w.Label8(0), TextId::kFahrenheit},
+                         {w.Label8(1), TextId::kFahrenheit},
+                         {w.Label8(2), TextId::kInch},
+                         {w.Label8(3), TextId::kInch},
                          {w.Label0, Kind_Name_Text(kind)},
-                         {w.Label3(0), 24},
-                         {w.Label3(1), 25},
-                         {w.Label3(2), 26},
-                         {w.Label3(3), 27},
-                         {w.Label3(4), 28},
-                         {w.Label3(5), 29},
-                         {w.Label3(6), 48},
-                         {w.Label3(7), 49},
-                         {w.Label3(8), 51},
-                         {w.Label9(0), 73},
-                         {w.Label9(1), 74},
-                         {w.Label9(2), 69},
+                         {w.Label3(0), TextId::kConductivity},
+                         {w.Label3(1), TextId::kTransferCoefficient},
+                         {w.Label3(2), TextId::kSurfaceTemperature},
+                         {w.Label3(3), TextId::kBareHeatFlow},
+                         {w.Label3(4), TextId::kInsulatedHeatFlow},
+                         {w.Label3(5), TextId::kSaving},
+                         {w.Label3(6), TextId::kGasSaving},
+                         {w.Label3(7), TextId::kOilSaving},
+                         {w.Label3(8), TextId::kElectricitySaving},
+                         {w.Label9(0), TextId::kConductivityUnit},
+                         {w.Label9(1), TextId::kTransferUnit},
+                         {w.Label9(2), TextId::kCelsius},
                          {w.Label9(3), heat_flow_unit},
                          {w.Label9(4), heat_flow_unit},
                          {w.Label9(5), heat_flow_unit},
-                         {w.Label9(6), 76},
-                         {w.Label9(7), 77},
-                         {w.Label9(8), 78}});
+                         {w.Label9(6), TextId::kGasUnit},
+                         {w.Label9(7), TextId::kOilUnit},
+                         {w.Label9(8), TextId::kElectricityUnit}});
   warmt.Label6.Set_Caption(warmt.Saving_Heading());
 }
 
@@ -122,17 +122,17 @@ void Apply_Language(Module1& module1) {
 
 void Apply_Language_Settings(Module1& module1) {
   Settings& settings = *module1.forms.settings;
-  constexpr int kTabTexts[] = {59, 47, 44};
+  constexpr TextId kTabTexts[] = {TextId::kSavings, TextId::kNewLambda, TextId::kNewAlpha};
   for (int tab = 0; tab < 3; ++tab) {
     settings.SSTab1.Set_TabCaption(tab, module1.Text(kTabTexts[tab]));
   }
-  Set_Captions(module1, {{module1.forms.warmt->Label1(5), 68},
-                         {settings.Label2, 43},
-                         {settings.Label7, 60},
-                         {settings.Label6(0), 61},
-                         {settings.Label6(1), 62}});
-  settings.Command1.Set_Caption(module1.Text(64));
-  settings.Command2.Set_Caption(module1.Text(65));
+  Set_Captions(module1, {{module1.forms.warmt->Label1(5), TextId::kLength},
+                         {settings.Label2, TextId::kAlphaPrompt},
+                         {settings.Label7, TextId::kExpressedIn},
+                         {settings.Label6(0), TextId::kHoursPerDay},
+                         {settings.Label6(1), TextId::kNumberOfDays}});
+  settings.Command1.Set_Caption(module1.Text(TextId::kOk));
+  settings.Command2.Set_Caption(module1.Text(TextId::kCancel));
 
   const auto slot = static_cast<std::size_t>(module1.Lang_Index);
   const auto& code = module1.languages.Lang_Code[slot];
@@ -156,7 +156,7 @@ void Apply_Language_List(Module1& module1) {
   for (int i = 0; i <= lang.Label2.UBound(); ++i) {
     const auto slot = static_cast<std::size_t>(i);
     if (module1.languages.Lang_Code[slot].value_or("").empty()) break;
-    const std::string& name = module1.languages.Lang_Text[slot][0];
+    const std::string& name = module1.languages.Text(i, TextId::kLanguageName);
     const std::size_t dash = name.find('-');
     lang.Label2(i).Set_Caption(name.substr(0, dash));
     lang.Label2(i).Set_Visible(!name.empty());

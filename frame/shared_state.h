@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "calc/conversions.h"
+#include "frame/text_id.h"
 #include "platform/platform.h"
 #include "screen/model/desk.h"
 #include "screen/model/form_slot.h"
@@ -43,6 +44,10 @@ struct LanguageTables {
   std::array<std::optional<std::string>, kSlots> Lang_Charset;  ///< a number as text
   std::vector<std::array<std::string, kTexts>> Lang_Text{kSlots};
 
+  const std::string& Text(int slot, TextId id) const {
+    return Lang_Text[static_cast<std::size_t>(slot)][static_cast<std::size_t>(id)];
+  }
+
   /// The header fields of the file that was read last.
   std::string Lang_Hdr1;
   std::string Lang_Hdr2;
@@ -58,11 +63,8 @@ struct Module1 {
 
   norvane::Locale Locale() const { return {platform.Decimal_Separator()}; }
 
-  /// Text `number` of the current language.
-  const std::string& Text(int number) const {
-    return languages
-        .Lang_Text[static_cast<std::size_t>(Lang_Index)][static_cast<std::size_t>(number)];
-  }
+  /// A text of the current language; empty where the language lacks it.
+  const std::string& Text(TextId id) const { return languages.Text(Lang_Index, id); }
 
   Platform& platform;
   Desk desk;

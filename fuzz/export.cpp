@@ -71,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Module1& module1 = run.State();
   auto lines = Input(data, size).Parts(kBetweenFiles);
   lines.resize(std::clamp(lines.size(), std::size_t{2}, kMostLines));
-  module1.languages.Lang_Text[0][97] = lines.front();
+  module1.languages.Lang_Text[0][static_cast<std::size_t>(TextId::kTotal)] = lines.front();
   lines.erase(lines.begin());
   module1.Calc_List = lines;
   module1.Calc_List.emplace_back();

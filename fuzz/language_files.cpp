@@ -35,8 +35,9 @@ void Require_Captions(RunningProgram& run) {
   Warmt& warmt = *run.forms().warmt;
   Require(module1.Lang_Index >= 0 && module1.Lang_Index < LanguageTables::kSlots,
           "there is a current language");
-  Require(warmt.Label1(0).Caption() == module1.Text(18), "the first heading is text 18");
-  Require(warmt.lblMenu(3).Caption() == module1.Text(4), "the way out is text 4");
+  Require(warmt.Label1(0).Caption() == module1.Text(TextId::kMediumTemperature),
+          "the first heading is its text");
+  Require(warmt.lblMenu(3).Caption() == module1.Text(TextId::kMenuExit), "the way out is its text");
   Require(module1.Calc_List.size() == 2 && module1.Calc_List[1].empty(),
           "a language begins an empty list");
 }

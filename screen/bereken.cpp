@@ -94,9 +94,9 @@ void Warmt::New_Alpha() {
 }
 
 std::string Warmt::Saving_Heading() const {
-  const auto text = [this](int number) { return module1_.Text(number); };
-  return text(59) + " (" + text(66) + ": " + Format(module1_.Hr_Day, module1_.Locale()) + ", " +
-         text(67) + ": " + Str(module1_.Days) + ", " + text(68) + ": " + Str(module1_.Mtrs) + ")";
+  const auto text = [this](TextId id) { return module1_.Text(id); };
+  return text(TextId::kSavings) + " (" + text(TextId::kShortHoursPerDay) + ": " + Format(module1_.Hr_Day, module1_.Locale()) + ", " +
+         text(TextId::kShortDays) + ": " + Str(module1_.Days) + ", " + text(TextId::kLength) + ": " + Str(module1_.Mtrs) + ")";
 }
 
 }  // namespace norvane

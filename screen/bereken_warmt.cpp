@@ -50,8 +50,8 @@ void Warmt::Bereken_Warmt() {
 
   const HeatLossResult result = Heat_Loss(Read_Input(module1_, *this), module1_.Locale());
   module1_.Alpha = result.Alpha;
-  constexpr int kPipeTexts[] = {29, 48, 49, 51};
-  constexpr int kSheetTexts[] = {52, 53, 54, 55};
+  constexpr TextId kPipeTexts[] = {TextId::kSaving, TextId::kGasSaving, TextId::kOilSaving, TextId::kElectricitySaving};
+  constexpr TextId kSheetTexts[] = {TextId::kSheetSaving, TextId::kSheetGasSaving, TextId::kSheetOilSaving, TextId::kSheetElectricitySaving};
   for (int i = 0; i < 4; ++i) {
     Label3(5 + i).Set_Caption(module1_.Text((Shows_Sheet() ? kSheetTexts : kPipeTexts)[i]));
   }

@@ -3,7 +3,7 @@
 #include "catalogue/products.h"
 #include "catalogue/settings_form.h"
 #include "frame/shared_state.h"
-#include "frame/text_numbers.h"
+#include "frame/text_id.h"
 #include "screen/warmt.h"
 
 namespace norvane {

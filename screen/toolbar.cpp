@@ -1,7 +1,7 @@
 #include "catalogue/address_form.h"
 #include "frame/lang_form.h"
 #include "frame/shared_state.h"
-#include "frame/text_numbers.h"
+#include "frame/text_id.h"
 #include "screen/warmt.h"
 #include "totals/calculation_list.h"
 #include "totals/total_form.h"
@@ -17,19 +17,20 @@ constexpr int kLambdaGroup = 4;
 constexpr int kSavingGroup = 5;
 
 // The texts that the tooltips show, by group and button.
-constexpr int kTooltips[][4] = {{96},
-                                {Kind_Name_Text(kSteelPipe), Kind_Name_Text(kCopperTube),
-                                 Kind_Name_Text(kMetricPipe), Kind_Name_Text(kSheet)},
-                                {6, 7},
-                                {44},
-                                {47, 50, 56},
-                                {57}};
+constexpr TextId kTooltips[][4] = {
+    {TextId::kShowTotals},
+    {Kind_Name_Text(kSteelPipe), Kind_Name_Text(kCopperTube), Kind_Name_Text(kMetricPipe),
+     Kind_Name_Text(kSheet)},
+    {TextId::kHeatLossMode, TextId::kCondensationMode},
+    {TextId::kNewAlpha},
+    {TextId::kNewLambda, TextId::kDefaultLambdaButton, TextId::kSecondLambdaButton},
+    {TextId::kSavingSettings}};
 
 }  // namespace
 
 void Warmt::Connect_Toolbar() {
   const auto connect_hover = [this](int group, int index, Button& button) {
-    button.tooltip_text = kTooltips[group][index];
+    tooltips_[&button] = kTooltips[group][index];
     button.On_Hover = [this, group, index, &button] { Hover_Button(group, index, button); };
   };
   const auto connect = [&](int group, FieldArray<Button>& buttons,
@@ -54,6 +55,8 @@ void Warmt::Connect_Toolbar() {
     entry.On_Click = [this, index = entry.Index()] { Click_lblMenu(index); };
   }
 }
+
+TextId Warmt::Tooltip_Of(const Button& button) const { return tooltips_.at(&button); }
 
 void Warmt::Press(int group, FieldArray<Button>& buttons, int Index) {
   std::int16_t& selected = module1_.Tool_Sel[static_cast<std::size_t>(group)];
@@ -118,7 +121,7 @@ void Warmt::Click_cmdToolBar5(int Index) {
 void Warmt::Hover_Button(int group, int Index, const Button& button) {
   Hover_Group = static_cast<std::int16_t>(group);
   Hover_Index[static_cast<std::size_t>(group)] = static_cast<std::int16_t>(Index);
-  LblTooltip.Set_Caption(module1_.Text(button.tooltip_text));
+  LblTooltip.Set_Caption(module1_.Text(Tooltip_Of(button)));
   const norvane::Place& at = button.Place();
   const norvane::Place& strip = picToolbar.Place();
   const norvane::Place& box = picToolTip.Place();

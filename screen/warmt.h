@@ -2,10 +2,12 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "calc/dew_point.h"
+#include "frame/text_id.h"
 #include "screen/model/field_array.h"
 #include "screen/model/form.h"
 
@@ -48,6 +50,9 @@ class Warmt : public Form {
   void New_Alpha();
   /// What stands above the savings: hours, days and metres that they are for.
   std::string Saving_Heading() const;
+
+  /// The text that tells what a button of the toolbars does.
+  TextId Tooltip_Of(const Button& button) const;
 
   // input.cpp
   void Change(FieldArray<TextField>& F, int Index);
@@ -189,6 +194,7 @@ class Warmt : public Form {
   void Show_Common_Rows();
 
   Module1& module1_;
+  std::map<const Button*, TextId> tooltips_;
   int changes_ = 0;  ///< handlers of `txtT` and `txtC` under way, inside each other
 };
 

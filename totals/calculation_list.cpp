@@ -12,14 +12,18 @@ namespace norvane {
 namespace {
 
 struct HeaderColumn {
-  int text;
-  const char* suffix;
+  TextId text;
+  const char* suffix = "";
 };
 
 constexpr HeaderColumn kHeader[] = {
-    {81, ""},   {82, ""},    {99, ""}, {98, ""}, {18, ""}, {19, ""}, {20, ""},
-    {21, ""},   {36, ""},    {24, ""}, {25, ""}, {26, ""}, {27, ""}, {28, ""},
-    {29, " %"}, {29, " Wm"}, {48, ""}, {49, ""}, {51, ""},
+    {TextId::kProductColumn},       {TextId::kObjectColumn},        {TextId::kLambdaColumn},
+    {TextId::kAlphaColumn},         {TextId::kMediumTemperature},   {TextId::kAmbientTemperature},
+    {TextId::kInsulationThickness}, {TextId::kPipeDiameter},        {TextId::kRelativeHumidity},
+    {TextId::kConductivity},        {TextId::kTransferCoefficient}, {TextId::kSurfaceTemperature},
+    {TextId::kBareHeatFlow},        {TextId::kInsulatedHeatFlow},   {TextId::kSaving, " %"},
+    {TextId::kSaving, " Wm"},       {TextId::kGasSaving},           {TextId::kOilSaving},
+    {TextId::kElectricitySaving},
 };
 
 }  // namespace
@@ -27,10 +31,10 @@ constexpr HeaderColumn kHeader[] = {
 void setHeaders(Module1& module1) {
   module1.Calc_List.assign(2, "");
   for (const HeaderColumn& column : kHeader) {
-    const auto number = static_cast<std::size_t>(column.text);
     const std::string& text = module1.Text(column.text);
+    // English stands in for what a language lacks, here alone.
     module1.Calc_List[0] +=
-        "~" + (text.empty() ? module1.languages.Lang_Text[0][number] : text) + column.suffix;
+        "~" + (text.empty() ? module1.languages.Text(0, column.text) : text) + column.suffix;
   }
 }
 

@@ -62,7 +62,7 @@ void Write_Captions(Spreadsheet& sheet, const std::vector<std::string>& captions
 }
 
 void Write_Sums(Spreadsheet& sheet, const Module1& module1, int last_column, int row) {
-  const CellValue values[] = {module1.Text(97), module1.Total_Sum1, module1.Total_Sum2,
+  const CellValue values[] = {module1.Text(TextId::kTotal), module1.Total_Sum1, module1.Total_Sum2,
                               module1.Total_Sum3};
   int column = last_column - 3;
   for (const CellValue& value : values) {

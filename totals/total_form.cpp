@@ -121,11 +121,11 @@ void Total::Fill_Lines() {
 
 void Total::Show_Sums() {
   const norvane::Locale locale = module1_.Locale();
-  const auto sum = [&](int name, double value) {
+  const auto sum = [&](TextId name, double value) {
     return "   " + module1_.Text(name) + " = " + Format(value, locale);
   };
-  Sums_Text = module1_.Text(97) + sum(89, module1_.Total_Sum1) + sum(90, module1_.Total_Sum2) +
-              sum(91, module1_.Total_Sum3);
+  Sums_Text = module1_.Text(TextId::kTotal) + sum(TextId::kGasSum, module1_.Total_Sum1) + sum(TextId::kOilSum, module1_.Total_Sum2) +
+              sum(TextId::kElectricitySum, module1_.Total_Sum3);
   const norvane::Place& place = Label1.Place();
   Label1.Set_Place({place.left, place.top, static_cast<double>(Sums_Text.size()) * kSumLetterWidth,
                     place.height});

@@ -118,9 +118,6 @@ class Button : public Field {
   const std::string& Caption() const { return caption_; }
   void Set_Caption(const std::string& caption) { Assign(caption_, caption, Attribute::kCaption); }
 
-  /// The number of the text that tells what a toolbar button does; 0 for other buttons.
-  int tooltip_text = 0;
-
   ButtonPicture Picture() const { return picture_; }
   void Lose_Selection() { Assign(picture_, spare_, Attribute::kPicture); }
   void Take_Selection() {

@@ -166,7 +166,7 @@ TEST_F(LanguageFiles, AreReadOnceAndNeverAgain) {
   program_.folder.Write("language.len", "a,b,0\r\n18,changed");
   ASSERT_EQ(program_.Click(program_.Main_Screen().lblMenu(1)), std::nullopt);
   ASSERT_EQ(program_.Click(program_.State().forms.lang->Label2(0)), std::nullopt);
-  EXPECT_EQ(program_.State().Text(18), "t18");
+  EXPECT_EQ(program_.State().Text(TextId::kMediumTemperature), "t18");
 }
 
 /// A change of the language, of which the dialog shows slots 0 to 19.
@@ -209,7 +209,7 @@ TEST_F(ALanguageChange, ToALanguageThatTheDialogDoesNotShowIsWrittenAlone) {
 TEST_F(ALanguageChange, GoesAsFarAsABrokenCharacterSetLetsIt) {
   Tables().Lang_Charset[1] = "Baltic";
   Select(1);
-  EXPECT_EQ(program_.State().Text(18), "Medium");
+  EXPECT_EQ(program_.State().Text(TextId::kMediumTemperature), "Medium");
   EXPECT_EQ(program_.Main_Screen().Label1(0).Caption(), "Medium");
   EXPECT_FALSE(program_.program.Ended());
 }
