@@ -20,7 +20,6 @@ class StartedProgram {
         platform_((std::filesystem::create_directories(folder_), folder_), '.', out_),
         program_(platform_) {
     std::ofstream(folder_ / "language.len") << "Norvane,Arial,0\n0,name=English-3.1\n";
-    platform_.module1 = &program_.State();
     program_.Main();
     for (int i = 0; i < 3; ++i) program_.Tick(program_.State().forms.about->Timer1);
   }

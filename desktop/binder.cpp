@@ -54,7 +54,7 @@ void Binder::Update() {
 }
 
 QString Binder::Shown(const std::string& bytes) const {
-  const int charset = field_.Font().charset.value_or(view_.desktop().Current_Charset());
+  const int charset = view_.desktop().program().State().Text_Charset(field_);
   return QString::fromStdString(To_Utf8(bytes, charset));
 }
 

@@ -16,8 +16,6 @@
 #include <clocale>
 #include <utility>
 
-#include "calc/conversions.h"
-#include "data/runtime_error.h"
 #include "desktop/form_view.h"
 #include "desktop/twips.h"
 #include "desktop/views.h"
@@ -42,6 +40,10 @@ QMessageBox::Icon Icon_Of(MessageIcon icon) {
       break;
   }
   return QMessageBox::NoIcon;
+}
+
+QString Shown(const std::string& bytes, int charset) {
+  return QString::fromStdString(To_Utf8(bytes, charset));
 }
 
 /// Shows a box, with words alone on its buttons, as on the program's own; the answer.
@@ -174,7 +176,7 @@ void Desktop::After_Program_Call() {
 }
 
 void Desktop::Decode_Anew_At_Need() {
-  const int charset = Current_Charset();
+  const int charset = program_.State().Text_Charset();
   if (std::exchange(shown_charset_, charset) == charset) return;
   for (const auto& [form, view] : views_) view->Decode_Anew();
 }
@@ -187,22 +189,8 @@ void Desktop::Show_Changes() {
   for (FormView* view : views) view->Show_Changes();
 }
 
-int Desktop::Current_Charset() const {
-  return Charset_Of(static_cast<std::size_t>(program_.State().Lang_Index));
-}
-
-int Desktop::Charset_Of(std::size_t slot) const {
-  const Module1& module1 = program_.State();
-  const auto& charset = module1.languages.Lang_Charset[slot];
-  try {
-    return charset ? To_Int16(To_Number(*charset, module1.Locale())) : 0;
-  } catch (const RuntimeError&) {
-    return 0;
-  }
-}
-
 QString Desktop::Text(const std::string& bytes) const {
-  return QString::fromStdString(To_Utf8(bytes, Current_Charset()));
+  return Shown(bytes, program_.State().Text_Charset());
 }
 
 QString Desktop::Text(TextId text) const { return Text(program_.State().Text(text)); }
@@ -211,9 +199,8 @@ QStringList Desktop::In_All_Languages(TextId text) const {
   const LanguageTables& languages = program_.State().languages;
   QStringList texts;
   for (int slot = 0; slot < LanguageTables::kSlots; ++slot) {
-    const auto at = static_cast<std::size_t>(slot);
-    if (!languages.Lang_Code[at]) continue;
-    texts << QString::fromStdString(To_Utf8(languages.Text(slot, text), Charset_Of(at)));
+    if (!languages.Lang_Code[static_cast<std::size_t>(slot)]) continue;
+    texts << Shown(languages.Text(slot, text), program_.State().Text_Charset(slot));
   }
   return texts;
 }
@@ -223,14 +210,13 @@ QWidget* Desktop::Front_Window() const {
   return active == nullptr ? nullptr : View_Of(*active);
 }
 
-MessageAnswer Desktop::Message(const std::string& title, const std::string& text, MessageIcon icon,
-                               MessageButtons buttons) {
+MessageAnswer Desktop::Message(const UserMessage& message) {
   Show_Changes();
-  QString lines = Text(text);
+  QString lines = Shown(message.text, message.charset);
   lines.replace("\r\n", "\n").replace('\r', '\n');
-  const bool yes_no = buttons == MessageButtons::kYesNo;
+  const bool yes_no = message.buttons == MessageButtons::kYesNo;
   QMessageBox box(
-      Icon_Of(icon), Text(title), lines,
+      Icon_Of(message.icon), Shown(message.title, message.charset), lines,
       yes_no ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok),
       Front_Window());
   if (yes_no) box.setEscapeButton(QMessageBox::No);

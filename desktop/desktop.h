@@ -44,8 +44,7 @@ class Desktop : public Platform, public Display {
   void Form_Unloaded(Form& form) override;
   void Run_Modal(Form& form) override;
   void Let_Events_Run() override;
-  MessageAnswer Message(const std::string& title, const std::string& text, MessageIcon icon,
-                        MessageButtons buttons) override;
+  MessageAnswer Message(const UserMessage& message) override;
   void Runtime_Error(int number, const std::string& words) override;
 
   /// Starts the program.
@@ -60,8 +59,7 @@ class Desktop : public Platform, public Display {
   /// The window of a form, or null while the form isn't loaded.
   FormView* View_Of(const Form& form) const;
 
-  /// The character set of texts that have none of their own.
-  int Current_Charset() const;
+  /// A text of the current language.
   QString Text(const std::string& bytes) const;
   QString Text(TextId text) const;
   /// A text of the program as each language that was found has it.
@@ -75,7 +73,6 @@ class Desktop : public Platform, public Display {
   /// A window that was just shown can paint only when the display server has exposed it.
   void Wait_For_Exposure();
   QWidget* Front_Window() const;
-  int Charset_Of(std::size_t slot) const;
   void Decode_Anew_At_Need();
 
   DiskFiles files_;

@@ -167,8 +167,7 @@ void FormView::Send(UserAction action, Field& field, int first, int last) {
 void FormView::Send_Text(Field& field, const QString& text) {
   if (form_ == nullptr) return;
   UserEvent event{UserAction::kSetText, *form_, &field};
-  event.text =
-      From_Utf8(text.toStdString(), field.Font().charset.value_or(desktop_.Current_Charset()));
+  event.text = From_Utf8(text.toStdString(), desktop_.program().State().Text_Charset(field));
   desktop_.Answer(event);
 }
 

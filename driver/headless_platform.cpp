@@ -52,14 +52,13 @@ MessageAnswer HeadlessPlatform::Take_Answer(MessageButtons buttons, bool& answer
   return answer;
 }
 
-MessageAnswer HeadlessPlatform::Message(const std::string& title, const std::string& text,
-                                        MessageIcon icon, MessageButtons buttons) {
+MessageAnswer HeadlessPlatform::Message(const UserMessage& message) {
   bool answered = false;
-  const MessageAnswer answer = Take_Answer(buttons, answered);
-  const bool yes_no = buttons == MessageButtons::kYesNo;
-  const int charset = Charset_Of_Slot(*module1, module1->Lang_Index);
-  out_ << "message " << Shown(title, charset) << " | " << Shown(text, charset) << " | "
-       << Name_Of(icon) << " | " << (yes_no ? "yes/no" : "ok") << " -> " << Name_Of(answer)
+  const MessageAnswer answer = Take_Answer(message.buttons, answered);
+  const bool yes_no = message.buttons == MessageButtons::kYesNo;
+  out_ << "message " << Shown(message.title, message.charset) << " | "
+       << Shown(message.text, message.charset) << " | " << Name_Of(message.icon) << " | "
+       << (yes_no ? "yes/no" : "ok") << " -> " << Name_Of(answer)
        << (yes_no && !answered ? " (unanswered)" : "") << '\n';
   return answer;
 }

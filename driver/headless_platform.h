@@ -11,8 +11,6 @@
 
 namespace norvane {
 
-struct Module1;
-
 /// A platform without a display: it prints what the program tells, and answers from a queue.
 class HeadlessPlatform : public Platform, public Display {
  public:
@@ -29,8 +27,7 @@ class HeadlessPlatform : public Platform, public Display {
   void Form_Unloaded(Form&) override {}
   void Run_Modal(Form& form) override { play_modal(form); }
   void Let_Events_Run() override {}
-  MessageAnswer Message(const std::string& title, const std::string& text, MessageIcon icon,
-                        MessageButtons buttons) override;
+  MessageAnswer Message(const UserMessage& message) override;
   void Runtime_Error(int number, const std::string& words) override;
 
   RecordingSpreadsheet& Recorder() { return spreadsheet_; }
@@ -40,8 +37,6 @@ class HeadlessPlatform : public Platform, public Display {
   /// The answers to the next message boxes.
   std::deque<MessageAnswer> answers;
   std::optional<std::vector<std::string>> fonts;
-  /// The program on this platform, for the character set of what it tells.
-  const Module1* module1 = nullptr;
 
  private:
   MessageAnswer Take_Answer(MessageButtons buttons, bool& answered);

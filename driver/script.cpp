@@ -24,7 +24,6 @@ constexpr int kTicksOfTheSplash = 3;
 Script::Script(HeadlessPlatform& platform, std::istream& in, std::ostream& out,
                std::ostream& errors)
     : platform_(platform), in_(in), out_(out), errors_(errors), program_(platform) {
-  platform_.module1 = &program_.State();
   platform_.play_modal = [this](Form& form) {
     Play_Lines([&] { return form.Shown() && !program_.Ended(); });
     if (form.Shown() && !program_.Ended()) throw ScriptEnd{};
@@ -163,7 +162,7 @@ void Script::Act(const ScriptLine& line) {
   event.height = line.last;
   if (line.field) {
     event.field = &Resolve_Field(form, *line.field);
-    event.text = From_Utf8(line.text, Charset_Of(program_.State(), *event.field));
+    event.text = From_Utf8(line.text, program_.State().Text_Charset(*event.field));
   }
   if (line.verb == Verb::kType) {
     Type(event, event.text);

@@ -27,7 +27,7 @@ const auto& Element(const List& list, int index) {
 }
 
 std::string Current_Text(const Module1& module1, const std::string& bytes) {
-  return Shown(bytes, Charset_Of_Slot(module1, module1.Lang_Index));
+  return Shown(bytes, module1.Text_Charset());
 }
 
 template <class Member>
@@ -73,7 +73,7 @@ template <class Member>
 StateName Language_Entry(Member member) {
   return {1, [member](Module1& m, const Indices& at) {
             const auto& entry = Element(m.languages.*member, at[0]);
-            return Shown(entry.value_or(""), Charset_Of_Slot(m, at[0]));
+            return Shown(entry.value_or(""), m.Text_Charset(at[0]));
           }};
 }
 
@@ -128,7 +128,7 @@ const std::map<std::string, StateName>& State_Names() {
        {2,
         [](Module1& m, const Indices& at) {
           const std::string& text = Element(Element(m.languages.Lang_Text, at[0]), at[1]);
-          return Shown(text, Charset_Of_Slot(m, at[0]));
+          return Shown(text, m.Text_Charset(at[0]));
         }}},
       {"Address_Table",
        {2, [](Module1& m,

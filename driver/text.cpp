@@ -1,7 +1,5 @@
 #include "driver/text.h"
 
-#include "calc/conversions.h"
-#include "data/runtime_error.h"
 #include "host/code_page.h"
 
 namespace norvane {
@@ -55,19 +53,6 @@ std::string Unescape(const std::string& text) {
     }
   }
   return plain;
-}
-
-int Charset_Of_Slot(const Module1& module1, int slot) {
-  const auto& charset = module1.languages.Lang_Charset[static_cast<std::size_t>(slot)];
-  try {
-    return charset ? To_Int16(To_Number(*charset, module1.Locale())) : 0;
-  } catch (const RuntimeError&) {
-    return 0;
-  }
-}
-
-int Charset_Of(const Module1& module1, const Field& field) {
-  return field.Font().charset.value_or(Charset_Of_Slot(module1, module1.Lang_Index));
 }
 
 std::string Shown(const std::string& bytes, int charset) { return Escape(To_Utf8(bytes, charset)); }

@@ -114,12 +114,12 @@ std::optional<std::string> Field_Value(const Module1& module1, const Field& fiel
   if (attribute.word == "Bold") return Printed(field.Font().bold);
   if (auto value = Place_Value(field.Place(), attribute.word)) return value;
   return Value_By_Kind<TextField, CaptionField, Button, PictureField, ListField, Tabs, Grid,
-                       TickTimer>(field, attribute, Charset_Of(module1, field));
+                       TickTimer>(field, attribute, module1.Text_Charset(field));
 }
 
 std::optional<std::string> Form_Value(const Module1& module1, const Form& form,
                                       const std::string& attribute) {
-  const int charset = Charset_Of_Slot(module1, module1.Lang_Index);
+  const int charset = module1.Text_Charset();
   if (attribute == "Caption") return Shown(form.Caption(), charset);
   if (attribute == "Tag") return Shown(form.Tag, charset);
   if (attribute == "Visible") return Printed(form.Shown());
@@ -150,7 +150,7 @@ std::string Printed(double number) {
 std::string Printed(float single) { return Text_Of_Single(single, Locale{}); }
 
 std::optional<std::string> Text_Of(const Module1& module1, const Field& field) {
-  const int charset = Charset_Of(module1, field);
+  const int charset = module1.Text_Charset(field);
   if (const auto* text = dynamic_cast<const TextField*>(&field)) {
     return Shown(text->Text(), charset);
   }

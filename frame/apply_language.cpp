@@ -99,13 +99,8 @@ void Set_Main_Fonts(Module1& module1, Warmt& warmt) {
 }  // namespace
 
 Font Language_Font(const Module1& module1, int slot, double size) {
-  const auto at = static_cast<std::size_t>(slot);
-  const auto& charset = module1.languages.Lang_Charset[at];
-  Font font;
-  font.name = module1.languages.Lang_FontName[at].value_or("");
-  font.size = size;
-  font.charset = charset ? To_Int16(To_Number(*charset, module1.Locale())) : 0;
-  return font;
+  const auto& name = module1.languages.Lang_FontName[static_cast<std::size_t>(slot)];
+  return {name.value_or(""), size, false, module1.Font_Charset(slot)};
 }
 
 void Apply_Language(Module1& module1) {

@@ -72,7 +72,7 @@ void Lang::Select_Language(std::int16_t TheLanNr) {
 }
 
 void Lang::Clear_Saved_Lines() {
-  const MessageAnswer answer = module1_.platform.display().Message(
+  const MessageAnswer answer = module1_.Message(
       kTitle, "Changing the language will clear saved data,\r\ndo you wish to continue",
       MessageIcon::kExclamation, MessageButtons::kYesNo);
   if (answer != MessageAnswer::kYes) {

@@ -76,8 +76,8 @@ void Load_Language(Module1& module1, const std::string& File, int Slot) {
   tables.Lang_Code[slot] = File.substr(10, 2);
   const auto file = module1.platform.files().Read(File);
   if (!file) {
-    module1.platform.display().Message(kTitle, "Unable to find Language file", MessageIcon::kNone,
-                                       MessageButtons::kOk);
+    module1.Message(kTitle, "Unable to find Language file", MessageIcon::kNone,
+                    MessageButtons::kOk);
     return;
   }
   ListInput input(*file);
@@ -99,10 +99,10 @@ void Select_Start_Language(Module1& module1) {
     module1.forms.lang->imgCheck(0).Set_Visible(true);
     return;
   }
-  module1.platform.display().Message("Quitting program",
-                                     "No language available: \rwww.norvane.example\r"
-                                     "for downloading language files.",
-                                     MessageIcon::kInformation, MessageButtons::kOk);
+  module1.Message("Quitting program",
+                  "No language available: \rwww.norvane.example\r"
+                  "for downloading language files.",
+                  MessageIcon::kInformation, MessageButtons::kOk);
   module1.desk.Quit();
 }
 

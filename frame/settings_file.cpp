@@ -30,8 +30,8 @@ void Ini_Write(Module1& module1, const std::string& File, const std::string& Sec
                const std::string& Key, const std::string& Value) {
   if (File.empty()) return;
   if (Key.empty() || Section.empty()) {
-    module1.platform.display().Message("Ini_Write", "Error - validation, write INI-file",
-                                       MessageIcon::kExclamation, MessageButtons::kOk);
+    module1.Message("Ini_Write", "Error - validation, write INI-file", MessageIcon::kExclamation,
+                    MessageButtons::kOk);
     return;
   }
   module1.platform.files().Rewrite(File, [&](const std::string& file) {

@@ -63,6 +63,21 @@ struct Module1 {
 
   norvane::Locale Locale() const { return {platform.Decimal_Separator()}; }
 
+  /// The Windows character set of a slot's language, as its fonts are given it; 0 where it has
+  /// none. Throws `RuntimeError` 13 when it is no number, 6 when it is beyond 16 bits.
+  int Font_Charset(int slot) const;
+
+  /// The character set that a slot's texts are read by: 0 where its fonts are refused theirs.
+  int Text_Charset(int slot) const;
+  /// That of the current language.
+  int Text_Charset() const { return Text_Charset(Lang_Index); }
+  /// That of what a field shows: its font's, or else the current language's.
+  int Text_Charset(const Field& field) const;
+
+  /// Shows the user a message in the current language's character set, and waits for the answer.
+  MessageAnswer Message(const std::string& title, const std::string& text, MessageIcon icon,
+                        MessageButtons buttons);
+
   /// A text of the current language; empty where the language lacks it.
   const std::string& Text(TextId id) const { return languages.Text(Lang_Index, id); }
 

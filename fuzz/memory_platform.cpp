@@ -42,11 +42,10 @@ void MemoryPlatform::Let_Events_Run() {
   if (on_pending_events) on_pending_events();
 }
 
-MessageAnswer MemoryPlatform::Message(const std::string& title, const std::string& text,
-                                      MessageIcon icon, MessageButtons buttons) {
+MessageAnswer MemoryPlatform::Message(const UserMessage& message) {
   Require(error == 0, "no message behind a runtime error");
   if (on_message) on_message();
-  return HeadlessPlatform::Message(title, text, icon, buttons);
+  return HeadlessPlatform::Message(message);
 }
 
 void MemoryPlatform::Runtime_Error(int number, const std::string& words) {

@@ -19,8 +19,7 @@ class MemoryPlatform : public HeadlessPlatform {
 
   void Form_Loaded(Form& form) override;
   void Let_Events_Run() override;
-  MessageAnswer Message(const std::string& title, const std::string& text, MessageIcon icon,
-                        MessageButtons buttons) override;
+  MessageAnswer Message(const UserMessage& message) override;
   void Runtime_Error(int number, const std::string& words) override;
 
   MemoryFiles folder;

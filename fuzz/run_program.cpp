@@ -12,7 +12,6 @@ constexpr int kTicksOfTheSplash = 3;
 
 RunningProgram::RunningProgram(char decimal_separator)
     : platform(decimal_separator), program(platform) {
-  platform.module1 = &program.State();
   platform.play_modal = [this](Form& form) { Close(form); };
 }
 

@@ -194,7 +194,7 @@ std::string User::Text_For(const TextField& field) {
 
 void User::Try(const UserEvent& event) {
   Desk& desk = run_.State().desk;
-  Tell(Line_Of(event, event.field ? Charset_Of(run_.State(), *event.field) : 0));
+  Tell(Line_Of(event, event.field ? run_.State().Text_Charset(*event.field) : 0));
 
   const auto* text = dynamic_cast<const TextField*>(event.field);
   const bool in_front = desk.Active() == &event.form;

@@ -16,6 +16,16 @@ enum class MessageIcon { kNone, kInformation, kExclamation, kQuestion };
 enum class MessageButtons { kOk, kYesNo };
 enum class MessageAnswer { kOk, kYes, kNo };
 
+/// What the user is told or asked. `title` and `text` are bytes of the Windows character set
+/// `charset`; carriage returns and line feeds end a line.
+struct UserMessage {
+  std::string title;
+  std::string text;
+  MessageIcon icon = MessageIcon::kNone;
+  MessageButtons buttons = MessageButtons::kOk;
+  int charset = 0;
+};
+
 /// The user's display: where forms are shown and questions are asked. All calls come from the one
 /// thread of the program, and a display reports events on that thread alone.
 class Display {
@@ -37,10 +47,8 @@ class Display {
   /// Reports the events that are pending and paints what has changed.
   virtual void Let_Events_Run() = 0;
 
-  /// Asks or tells the user, and waits for the answer. `title` and `text` are bytes of the current
-  /// language's code page; carriage returns and line feeds end a line.
-  virtual MessageAnswer Message(const std::string& title, const std::string& text, MessageIcon icon,
-                                MessageButtons buttons) = 0;
+  /// Asks or tells the user, and waits for the answer.
+  virtual MessageAnswer Message(const UserMessage& message) = 0;
 
   /// Tells the user that the program ends with a runtime error, and waits until it was read.
   virtual void Runtime_Error(int number, const std::string& words) = 0;

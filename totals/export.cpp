@@ -3,7 +3,6 @@
 #include "calc/conversions.h"
 #include "data/runtime_error.h"
 #include "data/text.h"
-#include "frame/language.h"
 #include "frame/shared_state.h"
 #include "frame/version.h"
 #include "totals/total_form.h"
@@ -46,13 +45,6 @@ bool Is_Workbook(Module1& module1, const std::string& strFile) {
          !module1.platform.files().List(strFile).empty();
 }
 
-/// 0 where the language gives no number.
-int Charset_Of(const Module1& module1) {
-  int charset = 0;
-  Try([&] { charset = Language_Font(module1, module1.Lang_Index, 9).charset.value_or(0); });
-  return charset;
-}
-
 void Write_Captions(Spreadsheet& sheet, const std::vector<std::string>& captions) {
   const int last = static_cast<int>(captions.size()) - 1;
   Try([&] { sheet.ClearContents("A1:" + std::string(1, Column(last)) + kLastClearedRow); });
@@ -72,8 +64,8 @@ void Write_Sums(Spreadsheet& sheet, const Module1& module1, int last_column, int
 }
 
 /// `Connected` tells whether the workbook was open already, which no failure comes behind today.
-void Tell_Failure(Display& display, bool Connected) {
-  display.Message(Connected ? "Excel connection lost" : "No Excel connection",
+void Tell_Failure(Module1& module1, bool Connected) {
+  module1.Message(Connected ? "Excel connection lost" : "No Excel connection",
                   Connected ? "Error: exporting data" : "Excel 97/2000 not found",
                   MessageIcon::kExclamation, MessageButtons::kOk);
 }
@@ -90,10 +82,10 @@ void Total::Xls_Export(const std::string& strFile) {
   if (!Is_Workbook(module1_, strFile)) {
     Set_MousePointer(MousePointer::kDefault);
     sheet.Release();
-    Tell_Failure(module1_.platform.display(), false);
+    Tell_Failure(module1_, false);
     return;
   }
-  Try([&] { sheet.Open(strFile, Charset_Of(module1_)); });
+  Try([&] { sheet.Open(strFile, module1_.Text_Charset()); });
   Try([&] { sheet.Set_Book_Visible(); });
   Try([&] { sheet.Select(1); });
   const auto& list = module1_.Calc_List;

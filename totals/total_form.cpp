@@ -124,7 +124,8 @@ void Total::Show_Sums() {
   const auto sum = [&](TextId name, double value) {
     return "   " + module1_.Text(name) + " = " + Format(value, locale);
   };
-  Sums_Text = module1_.Text(TextId::kTotal) + sum(TextId::kGasSum, module1_.Total_Sum1) + sum(TextId::kOilSum, module1_.Total_Sum2) +
+  Sums_Text = module1_.Text(TextId::kTotal) + sum(TextId::kGasSum, module1_.Total_Sum1) +
+              sum(TextId::kOilSum, module1_.Total_Sum2) +
               sum(TextId::kElectricitySum, module1_.Total_Sum3);
   const norvane::Place& place = Label1.Place();
   Label1.Set_Place({place.left, place.top, static_cast<double>(Sums_Text.size()) * kSumLetterWidth,
@@ -143,8 +144,8 @@ void Total::Ask_To_Delete() {
   }
   const int deleted = high - low + 1;
   const MessageAnswer answer =
-      module1_.platform.display().Message(kTitle, "Delete " + std::to_string(deleted) + " Records",
-                                          MessageIcon::kQuestion, MessageButtons::kYesNo);
+      module1_.Message(kTitle, "Delete " + std::to_string(deleted) + " Records",
+                       MessageIcon::kQuestion, MessageButtons::kYesNo);
   if (answer == MessageAnswer::kYes) {
     Delete_Lines(low, high);
   } else {

@@ -50,7 +50,7 @@ class Comparison {
 };
 
 std::string Comparison::Decoded(const Field& field, const std::string& bytes) const {
-  return To_Utf8(bytes, field.Font().charset.value_or(view_.desktop().Current_Charset()));
+  return To_Utf8(bytes, view_.desktop().program().State().Text_Charset(field));
 }
 
 QColor Colour(const BackColor& color) { return {color.red, color.green, color.blue}; }

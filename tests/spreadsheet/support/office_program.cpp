@@ -69,7 +69,6 @@ OfficeProgram::OfficeProgram(PlugIn plug_in, const MakeSpreadsheetHere& make,
   platform_ = std::make_unique<OfficePlatform>(folder.Path(), '.', out_);
   platform_->spreadsheet_ = make ? make(folder.Path()) : Make_Spreadsheet(folder.Path(), waiting);
   program_ = std::make_unique<Program>(*platform_);
-  platform_->module1 = &State();
   platform_->play_modal = [](Form& form) { form.Hide(); };
   program_->Main();
   for (int i = 0; i < 3; ++i) program_->Tick(State().forms.about->Timer1);

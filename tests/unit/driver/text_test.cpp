@@ -5,8 +5,6 @@
 #include <random>
 #include <string>
 
-#include "../support/test_program.h"
-
 namespace norvane {
 namespace {
 
@@ -52,17 +50,6 @@ TEST(AShownText, IsReadByItsCharacterSetAndEscaped) {
   EXPECT_EQ(Shown("\xE9\t\x81", 0), "é\\t\xEF\xBF\xBD");
   EXPECT_EQ(Shown("\xE9", 204), "й");
   EXPECT_EQ(Shown("\xE9", 161), "ι");
-}
-
-TEST(TheCharacterSetOfASlot, IsZeroWithoutANumber) {
-  TestProgram program;
-  auto& charsets = program.State().languages.Lang_Charset;
-  EXPECT_EQ(Charset_Of_Slot(program.State(), 5), 0);
-  for (const auto& [text, charset] :
-       {std::pair{"204", 204}, {" 161 ", 161}, {"", 0}, {"x", 0}, {"99999", 0}}) {
-    charsets[5] = text;
-    EXPECT_EQ(Charset_Of_Slot(program.State(), 5), charset) << text;
-  }
 }
 
 }  // namespace

@@ -19,10 +19,9 @@ class BusyPlatform : public HeadlessPlatform {
  public:
   using HeadlessPlatform::HeadlessPlatform;
 
-  MessageAnswer Message(const std::string& title, const std::string& text, MessageIcon icon,
-                        MessageButtons buttons) override {
+  MessageAnswer Message(const UserMessage& message) override {
     if (on_message) on_message();
-    return HeadlessPlatform::Message(title, text, icon, buttons);
+    return HeadlessPlatform::Message(message);
   }
   void Let_Events_Run() override {
     if (on_yield) on_yield();
@@ -34,10 +33,7 @@ class BusyPlatform : public HeadlessPlatform {
 
 class AnEventLoop : public testing::Test {
  protected:
-  AnEventLoop() {
-    platform_.module1 = &program_.State();
-    folder_.Write("language.len", Numbered_Language_File());
-  }
+  AnEventLoop() { folder_.Write("language.len", Numbered_Language_File()); }
 
   void Tick_Three_Times() {
     for (int i = 0; i < 3; ++i) program_.Tick(forms().about->Timer1);

@@ -6,7 +6,6 @@ namespace norvane {
 
 TestProgram::TestProgram(char decimal_separator)
     : platform(folder.Path(), decimal_separator, out), program(platform) {
-  platform.module1 = &program.State();
   platform.play_modal = [](Form& form) { form.Hide(); };
   folder.Write("language.len", Numbered_Language_File());
 }

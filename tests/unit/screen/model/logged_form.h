@@ -28,10 +28,7 @@ class LoggedDisplay : public Display {
     if (while_modal) while_modal(form);
   }
   void Let_Events_Run() override {}
-  MessageAnswer Message(const std::string&, const std::string&, MessageIcon,
-                        MessageButtons) override {
-    return MessageAnswer::kOk;
-  }
+  MessageAnswer Message(const UserMessage&) override { return MessageAnswer::kOk; }
   void Runtime_Error(int, const std::string&) override {}
 
   std::function<void(Form& form)> while_modal;
