@@ -15,7 +15,7 @@ void One_Heat_Loss(benchmark::State& state) {
   input.d_ins = 0.013F;
   input.D_pipe = 0.021F;
   input.alpha_text = "12.5";
-  input.Lambda = 0.032F;
+  input.Lambda = kDefaultLambda;
   input.Hr_Day = 24;
   input.Days = 30;
   input.Mtrs = 1;
@@ -31,7 +31,7 @@ void One_Condensation(benchmark::State& state, float T_med, float humidity, floa
   input.humidity = humidity;
   input.D_pipe = D_pipe;
   input.alpha_text = "12.5";
-  input.Lambda = 0.032F;
+  input.Lambda = kDefaultLambda;
   state.SetLabel(Format(Condensation(input, Locale{}).d_mm, "0.0", Locale{}) + " mm");
   for (auto _ : state) benchmark::DoNotOptimize(Condensation(input, Locale{}));
 }

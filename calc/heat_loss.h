@@ -16,6 +16,12 @@ enum Kind : std::int16_t {
   kSheet = 3,
 };
 
+/// Conductivity of the default material, at 0 degrees Celsius, W/mK.
+inline constexpr float kDefaultLambda = 0.032F;
+
+/// Conductivity of the other material that has a button of its own, at 0 degrees Celsius, W/mK.
+inline constexpr float kSecondLambda = 0.034F;
+
 /// Conductivity gained per degree of mean temperature, W/mK per degree Celsius.
 inline constexpr double kLambdaSlope = 0.00015;
 

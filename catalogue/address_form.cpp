@@ -1,6 +1,7 @@
 #include "catalogue/address_form.h"
 
 #include "catalogue/addresses.h"
+#include "frame/about_form.h"
 #include "frame/shared_state.h"
 
 namespace norvane {
@@ -74,7 +75,7 @@ void Address::Fill_Address_List() {
 
 void Show_Address_Dialog(Module1& module1) {
   Address& address = *module1.forms.address;
-  address.Tag = "no timers";
+  address.Tag = kNoTimers;
   address.Centre();
   address.Label1.Set_Caption("Addresses");
   address.List1.Set_Visible(true);

@@ -69,15 +69,15 @@ void Settings::Click_Command1() {
   if (Text1.Text().empty()) return;
   module1_.Lambda = Number_With_Comma(Text1);
   if (module1_.Lambda > kMostLambda || module1_.Lambda < kLeastLambda) {
-    module1_.Lambda = 0.032F;
+    module1_.Lambda = kDefaultLambda;
     module1_.forms.settings.Unload();
     return;
   }
   module1_.Lambda = To_Single(module1_.Lambda - kLambdaDifference);
   module1_.Hr_Day = To_Int16(Val(Text2(0).Text()));
   module1_.Days = To_Int16(Val(Text2(1).Text()));
-  Ini_Write(module1_, "norvane.ini", "Setting", "Hr_Day", Str(module1_.Hr_Day));
-  Ini_Write(module1_, "norvane.ini", "Setting", "Days", Str(module1_.Days));
+  Ini_Write(module1_, kSettingsFile, kSettingSection, "Hr_Day", Str(module1_.Hr_Day));
+  Ini_Write(module1_, kSettingsFile, kSettingSection, "Days", Str(module1_.Days));
   // The write below may run a calculation, which sets the shared value anew.
   const float alpha = Number_With_Comma(Text3);
   module1_.Alpha = alpha;

@@ -80,7 +80,8 @@ char Desktop::Decimal_Separator() const {
 }
 
 std::optional<std::vector<std::string>> Desktop::Font_Names() const {
-  std::vector<std::string> names{"Arial"};  // stands for whatever the font mapper gives for it
+  std::vector<std::string> names{
+      kDefaultFontName};  // stands for whatever the font mapper gives for it
   for (const QString& family : QFontDatabase::families()) names.push_back(family.toStdString());
   return names;
 }

@@ -10,11 +10,6 @@
 #include "desktop/tool_button.h"
 
 namespace norvane {
-namespace {
-
-constexpr const char* kWorkbook = "total.xls";
-
-}  // namespace
 
 TotalView::TotalView(Desktop& desktop, Total& total) : FormView(desktop, total) {
   auto* column = new QVBoxLayout(this);
@@ -23,8 +18,8 @@ TotalView::TotalView(Desktop& desktop, Total& total) : FormView(desktop, total) 
   auto* to_excel = new ToolButton(ToolSign::kSpreadsheet);
   to_excel->setCheckable(false);
   // The workbook's name is the same in all languages.
-  Tell(*to_excel, kWorkbook);
-  to_excel->setToolTip(kWorkbook);
+  Tell(*to_excel, kTotalWorkbook);
+  to_excel->setToolTip(kTotalWorkbook);
   tools->addWidget(to_excel);
   tools->addStretch();
   column->addLayout(tools);

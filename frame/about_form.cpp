@@ -18,7 +18,7 @@ constexpr int kTicksOfTheSplash = 3;
 
 About::About(Module1& module1) : Form(module1.desk, "About", kWidth, kHeight), module1_(module1) {
   has_close_box = false;
-  Label1.Set_Font({"Arial", 16, true, std::nullopt});
+  Label1.Set_Font({kDefaultFontName, 16, true, std::nullopt});
   Timer1.On_Tick = [this] { Tick(); };
 }
 
@@ -32,7 +32,7 @@ void About::Tick() {
   bool no_timers = false;
   for (Form* form :
        {&module1_.forms.about.Get(), &module1_.forms.address.Get(), &module1_.forms.lang.Get()}) {
-    no_timers = no_timers || form->Tag == "no timers";
+    no_timers = no_timers || form->Tag == kNoTimers;
   }
   if (no_timers) {
     Timer1.Set_Enabled(false);

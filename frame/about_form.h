@@ -8,6 +8,10 @@ namespace norvane {
 
 struct Module1;
 
+/// The tags of forms that steer the splash screen's timer: it runs until a form has the second one.
+inline constexpr const char* kTimers = "timers";
+inline constexpr const char* kNoTimers = "no timers";
+
 /// The splash screen, whose third tick hands over to the main screen.
 class About : public Form {
  public:

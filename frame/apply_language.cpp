@@ -75,7 +75,8 @@ void Test_Font(Module1& module1) {
   const auto installed = module1.platform.Font_Names();
   if (!installed) return;
   const std::string wanted = name.value_or("");
-  if (std::find(installed->begin(), installed->end(), wanted) == installed->end()) name = "Arial";
+  if (std::find(installed->begin(), installed->end(), wanted) == installed->end())
+    name = kDefaultFontName;
 }
 
 void Set_Main_Fonts(Module1& module1, Warmt& warmt) {

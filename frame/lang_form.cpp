@@ -64,7 +64,7 @@ void Lang::Select_Language(std::int16_t TheLanNr) {
     const auto last = codes.begin() + module1_.forms.lang->Label2.UBound() + 1;
     const auto found = std::find(codes.begin(), last, code);
     if (found != last) module1_.Lang_Index = static_cast<std::int16_t>(found - codes.begin());
-    Ini_Write(module1_, "norvane.ini", "Init", "Language", code.value_or(""));
+    Ini_Write(module1_, kSettingsFile, kInitSection, "Language", code.value_or(""));
     Apply_Language(module1_);
   } catch (const RuntimeError&) {
     // A language with a broken header is applied as far as it goes.

@@ -15,6 +15,7 @@ namespace norvane {
 namespace {
 
 constexpr const char* kEnglishFile = "language.len";
+constexpr const char* kEnglishCode = "en";
 constexpr int kLastSlot = LanguageTables::kSlots - 1;
 
 /// The text number in front of a line's first comma, or that of the line before.
@@ -72,7 +73,7 @@ void Find_Languages(Module1& module1) {
 void Load_Language(Module1& module1, const std::string& File, int Slot) {
   LanguageTables& tables = module1.languages;
   const auto slot = static_cast<std::size_t>(Slot);
-  tables.Lang_Code[0] = "en";
+  tables.Lang_Code[0] = kEnglishCode;
   tables.Lang_Code[slot] = File.substr(10, 2);
   const auto file = module1.platform.files().Read(File);
   if (!file) {
@@ -86,7 +87,8 @@ void Load_Language(Module1& module1, const std::string& File, int Slot) {
 }
 
 void Select_Start_Language(Module1& module1) {
-  const std::string wanted = Lower(Ini_Read(module1, "norvane.ini", "Init", "Language", "en"));
+  const std::string wanted =
+      Lower(Ini_Read(module1, kSettingsFile, kInitSection, "Language", kEnglishCode));
   const auto& codes = module1.languages.Lang_Code;
   const auto found = std::find_if(codes.begin(), codes.end(), [&](const auto& code) {
     return Lower(code.value_or("")) == wanted;

@@ -9,7 +9,7 @@ namespace norvane {
 
 void Program::Main() {
   Run([this] {
-    module1_.forms.about->Tag = "timers";
+    module1_.forms.about->Tag = kTimers;
     Show_Splash(module1_);
     module1_.desk.Let_Events_Run();
     module1_.forms.warmt->Hide();

@@ -10,7 +10,7 @@ namespace {
 constexpr std::size_t kBufferSize = 255;
 
 std::int16_t Read_Number(Module1& module1, const std::string& Key, const std::string& Default) {
-  return To_Int16(Val(Ini_Read(module1, "norvane.ini", "Setting", Key, Default)));
+  return To_Int16(Val(Ini_Read(module1, kSettingsFile, kSettingSection, Key, Default)));
 }
 
 }  // namespace

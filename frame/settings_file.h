@@ -6,6 +6,11 @@ namespace norvane {
 
 struct Module1;
 
+/// The program's settings file, and its sections.
+inline constexpr const char* kSettingsFile = "norvane.ini";
+inline constexpr const char* kInitSection = "Init";
+inline constexpr const char* kSettingSection = "Setting";
+
 /// The value of a key of a settings file in the program's folder, at most 254 letters. `Default`
 /// stands in for a missing file, section or key, and when section, key or default are empty. A key
 /// that is there without a value gives 255 zero characters, not the default.

@@ -57,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static RunningProgram run('.');
   static const bool started = [] {
     run.platform.folder.Write("language.len", Numbered_Language_File());
-    run.platform.folder.Write("total.xls", "");
+    run.platform.folder.Write(kTotalWorkbook, "");
     run.Start();
     return true;
   }();
@@ -85,7 +85,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                 error.number() == RuntimeError::kSubscriptOutOfRange,
             "a sum of cells that are no numbers");
   }
-  total.Xls_Export("total.xls");
+  total.Xls_Export(kTotalWorkbook);
   constexpr std::size_t kSums = 4;
   Require(sheet.writes == lines.size() + kSums, "the header, each line and the sums are written");
   Require(sheet.beyond || sheet.last_row == static_cast<int>(lines.size()) + 2,

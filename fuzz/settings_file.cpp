@@ -36,7 +36,7 @@ std::string_view Without_Blanks(std::string_view text) {
 }
 
 std::string Read(Module1& module1, const Key& key) {
-  return Ini_Read(module1, "norvane.ini", key.first, key.second, "the default");
+  return Ini_Read(module1, kSettingsFile, key.first, key.second, "the default");
 }
 
 /// What reading a written value gives: without the blanks around it, cut, or zeros for nothing.
@@ -70,10 +70,10 @@ void Write_And_Read_Back(Module1& module1, MemoryFiles& folder, const Key& key,
                          const std::string& value) {
   std::vector<std::string> before;
   for (const Key& other : kKeys) before.push_back(Read(module1, other));
-  const std::string bytes = folder.Read("norvane.ini").value_or("");
-  Ini_Write(module1, "norvane.ini", key.first, key.second, value);
+  const std::string bytes = folder.Read(kSettingsFile).value_or("");
+  Ini_Write(module1, kSettingsFile, key.first, key.second, value);
   Require(Read(module1, key) == Read_Back(value), "a written key reads back");
-  Require_One_Stretch(bytes, folder.Read("norvane.ini").value_or(""));
+  Require_One_Stretch(bytes, folder.Read(kSettingsFile).value_or(""));
   for (std::size_t i = 0; i < std::size(kKeys); ++i) {
     Require(Same(kKeys[i], key) || Read(module1, kKeys[i]) == before[i],
             "a written key leaves the others");

@@ -1,6 +1,7 @@
 #include "calc/heat_loss.h"
 #include "catalogue/settings_form.h"
 #include "frame/shared_state.h"
+#include "screen/start_values.h"
 #include "screen/warmt.h"
 
 namespace norvane {
@@ -21,14 +22,16 @@ void Warmt::Bereken() {
 }
 
 void Warmt::Colour_Lambda() {
-  // The text of the value decides, in both spellings, so that it holds in every locale.
-  const std::string s = Text_Of_Single(module1_.Lambda, module1_.Locale());
-  if (s == "0,032" || s == "0.032") {
+  // The text of the value decides.
+  const auto is = [this, locale = module1_.Locale()](float lambda) {
+    return Text_Of_Single(module1_.Lambda, locale) == Text_Of_Single(lambda, locale);
+  };
+  if (is(kDefaultLambda)) {
     Label4(0).Set_BackColor(kGrey);
     return;
   }
   Label4(0).Set_BackStyle(BackStyle::kOpaque);
-  const bool known = (s == "0,034" || s == "0.034") && cmdToolBar4(2).Visible();
+  const bool known = is(kSecondLambda) && cmdToolBar4(2).Visible();
   Label4(0).Set_BackColor(known ? kGreen : kRed);
 }
 
@@ -60,7 +63,7 @@ void Warmt::Show_Fahrenheit(int Index, TextField& field) {
 
 void Warmt::Default_Diameter(TextField& field) {
   if (Val(field.Text()) != 0) return;
-  field.Set_Text(Format(10, module1_.Locale()));
+  field.Set_Text(Format(kStartDiameter, module1_.Locale()));
   Text2(3).Set_Caption("1/8");
   Text2(3).Set_Visible(true);
   Label8(3).Set_Visible(true);
@@ -95,8 +98,9 @@ void Warmt::New_Alpha() {
 
 std::string Warmt::Saving_Heading() const {
   const auto text = [this](TextId id) { return module1_.Text(id); };
-  return text(TextId::kSavings) + " (" + text(TextId::kShortHoursPerDay) + ": " + Format(module1_.Hr_Day, module1_.Locale()) + ", " +
-         text(TextId::kShortDays) + ": " + Str(module1_.Days) + ", " + text(TextId::kLength) + ": " + Str(module1_.Mtrs) + ")";
+  return text(TextId::kSavings) + " (" + text(TextId::kShortHoursPerDay) + ": " +
+         Format(module1_.Hr_Day, module1_.Locale()) + ", " + text(TextId::kShortDays) + ": " +
+         Str(module1_.Days) + ", " + text(TextId::kLength) + ": " + Str(module1_.Mtrs) + ")";
 }
 
 }  // namespace norvane

@@ -3,6 +3,7 @@
 #include "calc/sizes.h"
 #include "frame/settings_file.h"
 #include "frame/shared_state.h"
+#include "screen/start_values.h"
 #include "screen/warmt.h"
 
 namespace norvane {
@@ -23,7 +24,7 @@ CondensInput Read_Input(Module1& module1, Warmt& warmt) {
 }
 
 std::int16_t Kept_Index(Module1& module1, const std::string& Key, const std::string& Default) {
-  return To_Int16(Val(Ini_Read(module1, "norvane.ini", "Init", Key, Default)));
+  return To_Int16(Val(Ini_Read(module1, kSettingsFile, kInitSection, Key, Default)));
 }
 
 }  // namespace
@@ -53,9 +54,9 @@ void Warmt::Bereken_Condens() {
 void Warmt::Condens_Defaults() {
   const norvane::Locale locale = module1_.Locale();
   Default_Temperature(0, txtC(0), 10);
-  Default_Temperature(1, txtC(1), 24);
+  Default_Temperature(1, txtC(1), kStartAmbient);
   if (Val(txtC(2).Text()) == 0) txtC(2).Set_Text(Format(0.7, locale));
-  if (txtC(4).Text().empty()) txtC(4).Set_Text(Format(60, locale));
+  if (txtC(4).Text().empty()) txtC(4).Set_Text(Format(kStartHumidity, locale));
   Idx_A1 = Kept_Index(module1_, "A1", "17");
   Idx_A4 = Kept_Index(module1_, "A4", "9");
   Default_Diameter(txtC(3));

@@ -50,8 +50,10 @@ void Warmt::Bereken_Warmt() {
 
   const HeatLossResult result = Heat_Loss(Read_Input(module1_, *this), module1_.Locale());
   module1_.Alpha = result.Alpha;
-  constexpr TextId kPipeTexts[] = {TextId::kSaving, TextId::kGasSaving, TextId::kOilSaving, TextId::kElectricitySaving};
-  constexpr TextId kSheetTexts[] = {TextId::kSheetSaving, TextId::kSheetGasSaving, TextId::kSheetOilSaving, TextId::kSheetElectricitySaving};
+  constexpr TextId kPipeTexts[] = {TextId::kSaving, TextId::kGasSaving, TextId::kOilSaving,
+                                   TextId::kElectricitySaving};
+  constexpr TextId kSheetTexts[] = {TextId::kSheetSaving, TextId::kSheetGasSaving,
+                                    TextId::kSheetOilSaving, TextId::kSheetElectricitySaving};
   for (int i = 0; i < 4; ++i) {
     Label3(5 + i).Set_Caption(module1_.Text((Shows_Sheet() ? kSheetTexts : kPipeTexts)[i]));
   }

@@ -8,13 +8,11 @@
 #include "frame/settings_file.h"
 #include "frame/shared_state.h"
 #include "frame/version.h"
+#include "screen/start_values.h"
 #include "screen/warmt.h"
 
 namespace norvane {
 namespace {
-
-constexpr double kStartTemperature = 24.0;  // degrees Celsius
-constexpr double kStartHumidity = 60.0;     // percent
 
 std::int16_t Number_In(int id) { return To_Int16(Val(String_Table(id))); }
 
@@ -30,10 +28,10 @@ void Warmt::Init() {
   Load_Product_Group(module1_, 2);
   Idx_A4 = 0;
   Fill_Dew_Point_Arrays();
-  module1_.languages.Lang_FontName.fill("Arial");
+  module1_.languages.Lang_FontName.fill(kDefaultFontName);
   module1_.Lang_Index = 0;
   module1_.Sel_Size = kSteelPipe;
-  module1_.Lambda = 0.032F;
+  module1_.Lambda = kDefaultLambda;
 
   // The first of these calculates while there is no mode yet, which counts as condensation.
   Click_cmdToolBar1(0);
@@ -57,9 +55,9 @@ void Warmt::Fill_Dew_Point_Arrays() {
   for (int i = 1; i <= rows; ++i) {
     auto& temperature = Dew_Temps[static_cast<std::size_t>(i)];
     temperature = Val(String_Table(Dew_Cell_Id(i, 1)));
-    if (temperature == kStartTemperature) {
+    if (temperature == kStartAmbient) {
       Idx_A1 = static_cast<std::int16_t>(i);
-      Ini_Write(module1_, "norvane.ini", "Init", "A1", Str(i));
+      Ini_Write(module1_, kSettingsFile, kInitSection, "A1", Str(i));
     }
   }
   const int columns = Number_In(402);
@@ -69,14 +67,14 @@ void Warmt::Fill_Dew_Point_Arrays() {
     humidity = Val(String_Table(Dew_Cell_Id(0, j)));
     if (humidity == kStartHumidity) {
       Idx_A4 = static_cast<std::int16_t>(j);
-      Ini_Write(module1_, "norvane.ini", "Init", "A4", Str(j));
+      Ini_Write(module1_, kSettingsFile, kInitSection, "A4", Str(j));
     }
   }
 }
 
 void Warmt::Init_results() {
   // The diameter of mode "T" in both modes, and the electricity saving keeps its text.
-  txtT(3).Set_Text(Format(10, module1_.Locale()));
+  txtT(3).Set_Text(Format(kStartDiameter, module1_.Locale()));
   for (int i = 0; i <= 8; ++i) Label4(i).Set_Caption("");
 }
 

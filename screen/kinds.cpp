@@ -85,10 +85,10 @@ void Warmt::Select_Lambda(int index) {
       New_Lambda();
       break;
     case 1:
-      module1_.Lambda = 0.032F;
+      module1_.Lambda = kDefaultLambda;
       break;
     case 2:
-      module1_.Lambda = 0.034F;
+      module1_.Lambda = kSecondLambda;
       break;
     default:
       return;

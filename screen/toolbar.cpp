@@ -1,4 +1,5 @@
 #include "catalogue/address_form.h"
+#include "frame/about_form.h"
 #include "frame/lang_form.h"
 #include "frame/shared_state.h"
 #include "frame/text_id.h"
@@ -168,7 +169,7 @@ void Warmt::Click_cmdAdd() {
 
 void Warmt::Open_Language() {
   Lang& lang = *module1_.forms.lang;
-  lang.Tag = "no timers";
+  lang.Tag = kNoTimers;
   lang.imgExit.Set_Visible(true);
   lang.OK.Set_Visible(true);
   Show_Lang_Dialog(module1_);

@@ -59,7 +59,6 @@ void Warmt::Design_Captions() {
   Label10.Set_Caption("Language");
   cmdAdd.Set_Caption("Add to Total");
 
-  constexpr int kSymbolCharset = 2;
   for (CaptionField& letter : Label2) letter.Set_Font({"Symbol", 9, false, kSymbolCharset});
 }
 

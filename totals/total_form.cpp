@@ -37,7 +37,7 @@ Total::Total(Module1& module1) : Form(module1.desk, "Total", 0, 0), module1_(mod
   grdResult.On_Mouse_Up = [this] { Ask_To_Delete(); };
   grdResult.On_Click = grdResult.On_Mouse_Up;
   // The one button of the toolbar has the key "ToExcel".
-  Toolbar1.On_Click = [this] { Xls_Export("total.xls"); };
+  Toolbar1.On_Click = [this] { Xls_Export(kTotalWorkbook); };
 }
 
 void Total::Load() {

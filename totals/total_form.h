@@ -9,6 +9,9 @@ namespace norvane {
 
 struct Module1;
 
+/// The workbook that the export of the totals fills.
+inline constexpr const char* kTotalWorkbook = "total.xls";
+
 /// The screen of the saved calculations with the sums of their savings. Grid row r shows element r
 /// of `Calc_List`.
 class Total : public Form {

@@ -45,10 +45,15 @@ inline constexpr BackColor kGrey{224, 224, 224};
 inline constexpr BackColor kRed{255, 0, 0};
 inline constexpr BackColor kGreen{17, 176, 105};
 
+inline constexpr const char* kDefaultFontName = "Arial";
+
+/// The character set of the font "Symbol", whose letters are Greek ones.
+inline constexpr int kSymbolCharset = 2;
+
 /// `charset` is the Windows character set that the text of the field is read by; without one it is
 /// the one that the program uses for all.
 struct Font {
-  std::string name = "Arial";
+  std::string name = kDefaultFontName;
   double size = 9;  ///< points
   bool bold = false;
   std::optional<int> charset;
