@@ -29,9 +29,13 @@ struct CondensResult {
 /// sheet from the plane-wall relation, for a pipe by a search in steps of 0.1 mm.
 /// Throws `RuntimeError` 6 when the search passes 32.7675 m, and 5, 6, 11 or 13 where another
 /// value leaves the range of its type.
+/// @param input the object and the air around it
+/// @param locale the user's number signs
 CondensResult Condensation(const CondensInput& input, const Locale& locale);
 
 /// The same with the surface heat-transfer coefficient `Alpha`, W/m2K, whatever its text says.
+/// @param input the object and the air around it
+/// @param Alpha surface heat-transfer coefficient, W/m2K
 CondensResult Condensation(const CondensInput& input, float Alpha);
 
 }  // namespace norvane

@@ -88,22 +88,31 @@ struct HeatLossResult {
 
 /// The surface heat-transfer coefficient of a kind of object, W/m2K: 12.5 for steel pipes and
 /// sheets, 10 for copper tubes and metric pipes.
+/// @param Sel_Size a `Kind`
 float Default_Alpha(std::int16_t Sel_Size);
 
 /// The surface heat-transfer coefficient in effect, W/m2K: the typed one when it is a number above
 /// 0, else the default of the kind. Throws `RuntimeError` 13 for a text that is no number.
+/// @param alpha_text as typed, in the user's number signs
+/// @param Sel_Size a `Kind`
+/// @param locale the user's number signs
 float Effective_Alpha(const std::string& alpha_text, std::int16_t Sel_Size, const Locale& locale);
 
 /// What makes the heat of a flow, W/m of pipe or W/m2 of sheet, through the object of `input`.
+/// @param heat_flow W/m of pipe or W/m2 of sheet
+/// @param input whose time and length or area count
 Fuels Fuels_For(float heat_flow, const HeatFlowInput& input);
 
 /// Steady heat flow through a bare and an insulated cylinder or plane wall (the textbook relations
 /// for one layer with surface resistance, pi taken as 3.1415). The medium side's resistance is
 /// neglected, and the insulated pipe's surface is taken at its outer diameter.
 /// Throws `RuntimeError` 5, 6 or 11 where a value leaves the range of its type.
+/// @param input the object and its use
 HeatLossResult Heat_Loss(const HeatFlowInput& input);
 
 /// The same of whole degrees. Throws `RuntimeError` 13 for an alpha that is no number.
+/// @param input the object and its use
+/// @param locale the user's number signs
 HeatLossResult Heat_Loss(const HeatLossInput& input, const Locale& locale);
 
 }  // namespace norvane

@@ -7,12 +7,17 @@
 namespace norvane {
 
 /// `text` with its ASCII letters in lower case.
+/// @param text any bytes
 std::string Lower(std::string_view text);
 
 /// `text` without the `blanks` at its ends, which are spaces unless said otherwise.
+/// @param text any bytes; they have to outlive the result
+/// @param blanks the letters that are taken away
 std::string_view Trim(std::string_view text, std::string_view blanks = " ");
 
 /// The parts of a text between separators; an empty text has none.
+/// @param text any bytes
+/// @param separator between two parts
 std::vector<std::string> Split(std::string_view text, char separator);
 
 }  // namespace norvane

@@ -7,9 +7,11 @@ namespace norvane {
 
 /// Whether the bytes are well-formed UTF-8 (RFC 3629), which has neither surrogates nor overlong
 /// forms.
+/// @param bytes of any text
 bool Is_Utf8(std::string_view bytes);
 
 /// The text with U+FFFD for every byte that belongs to no letter.
+/// @param bytes of any text
 std::string Mended_Utf8(std::string_view bytes);
 
 }  // namespace norvane

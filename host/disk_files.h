@@ -17,6 +17,7 @@ class DiskFiles : public Files {
                const std::function<std::string(const std::string&)>& edit) override;
 
   /// Where a file lies, in the spelling of the folder; where it would lie when it isn't there.
+  /// @param name bare, or with "\\" between folders
   std::filesystem::path Path_Of(const std::string& name) const;
 
  private:

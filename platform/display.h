@@ -36,21 +36,27 @@ class Display {
 
   /// The form has its fields, and its Load is still to run; it isn't shown yet. From here to
   /// `Form_Unloaded` the display may observe it. The form keeps ownership of all that it holds.
+  /// @param form the new form
   virtual void Form_Loaded(Form& form) = 0;
 
   /// The form is thrown away. The display lets go of it before it returns.
+  /// @param form the form that goes
   virtual void Form_Unloaded(Form& form) = 0;
 
   /// Reports the user's events until the form is shown no longer or the program has ended.
+  /// @param form the form, shown already
   virtual void Run_Modal(Form& form) = 0;
 
   /// Reports the events that are pending and paints what has changed.
   virtual void Let_Events_Run() = 0;
 
   /// Asks or tells the user, and waits for the answer.
+  /// @param message words, icon and buttons
   virtual MessageAnswer Message(const UserMessage& message) = 0;
 
   /// Tells the user that the program ends with a runtime error, and waits until it was read.
+  /// @param number the classic number, such as 6
+  /// @param words its classic words, such as "Overflow"
   virtual void Runtime_Error(int number, const std::string& words) = 0;
 };
 

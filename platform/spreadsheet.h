@@ -31,11 +31,15 @@ class Spreadsheet {
   /// Opens the file `name` of the program's folder, in the program that was reached, or else in the
   /// running one or a new one. Texts come in the Windows character set
   /// `charset` from here on.
+  /// @param name of a workbook of the program's folder
+  /// @param charset Windows character set of the texts
   virtual void Open(const std::string& name, int charset) = 0;
   virtual void Set_Book_Visible() = 0;
   virtual void Select(int sheet) = 0;
   virtual void ClearContents(const std::string& range) = 0;
   /// Writes the values from left to right into the cells of a range of one row.
+  /// @param range such as "A3:C3"
+  /// @param values one for each cell
   virtual void Value(const std::string& range, const std::vector<CellValue>& values) = 0;
   virtual void Bold(const std::string& range) = 0;
   /// Asks the program, when its main window stands on the display, to report itself as running.
