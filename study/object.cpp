@@ -72,7 +72,15 @@ constexpr Column kColumns[] = {
 std::span<const Column> Columns() { return kColumns; }
 
 bool Is_Asked(const Column& column, Question question) {
-  return question == Question::kHeatLoss ? column.for_heat_loss : column.for_condensation;
+  switch (question) {
+    case Question::kHeatLoss:
+      return column.for_heat_loss;
+    case Question::kComparison:
+      return column.for_heat_loss && column.number != &Object::thickness_mm;
+    case Question::kCondensation:
+      break;
+  }
+  return column.for_condensation;
 }
 
 }  // namespace norvane

@@ -33,7 +33,7 @@ struct Object {
 };
 
 /// The question that is asked of an object.
-enum class Question { kHeatLoss, kCondensation };
+enum class Question { kHeatLoss, kComparison, kCondensation };
 
 /// A column of a schedule, named with its unit.
 struct Column {

@@ -1,9 +1,9 @@
 #include <xlsxwriter.h>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
+#include <vector>
 
 #include "c_locale.h"
 #include "spreadsheet/workbook.h"
@@ -11,7 +11,6 @@
 namespace norvane {
 namespace {
 
-constexpr int kColumns = 26;
 constexpr double kNarrowest = 3;  // in digits, as the widths of columns are measured
 constexpr double kWidest = 40;
 constexpr const char* kWholeSheet = "A1:XFD1048576";
@@ -64,13 +63,15 @@ class WorkbookWriter {
   }
 
   void Widen(int column, double width) {
-    double& widest = widths_[static_cast<std::size_t>(column)];
+    const auto place = static_cast<std::size_t>(column);
+    if (widths_.size() <= place) widths_.resize(place + 1);
+    double& widest = widths_[place];
     widest = std::max(widest, width + 1);
   }
 
   void Set_Up_Sheet() {
-    for (int column = 0; column < kColumns; ++column) {
-      const double width = widths_[static_cast<std::size_t>(column)];
+    for (std::size_t column = 0; column < widths_.size(); ++column) {
+      const double width = widths_[column];
       if (width == 0) continue;
       const auto c = static_cast<lxw_col_t>(column);
       worksheet_set_column(sheet_, c, c, std::clamp(width, kNarrowest, kWidest), nullptr);
@@ -90,7 +91,7 @@ class WorkbookWriter {
   lxw_workbook* file_;
   lxw_worksheet* sheet_ = nullptr;
   lxw_format* bold_ = nullptr;
-  std::array<double, kColumns> widths_{};
+  std::vector<double> widths_;  // by column
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <random>
 
 #include "calc/sizes.h"
@@ -58,6 +59,24 @@ class RandomObjects {
     return object;
   }
 
+  /// An object with the kind, the insulation and the hours of another. Thin ones on thin pipes come
+  /// often enough to be without a saving now and then.
+  Object Draw_In(const Object& group) {
+    Object object = Draw();
+    object.kind = group.kind;
+    object.lambda_W_mK = group.lambda_W_mK;
+    object.alpha_W_m2K = group.alpha_W_m2K;
+    object.hours_per_day = group.hours_per_day;
+    object.days = group.days;
+    object.diameter_mm = kNotGiven;
+    if (object.kind == kSheet) return object;
+    const int most = One_In(4) ? 12 : Pipe_Sizes(object.kind).back().mm;
+    object.diameter_mm = From(60, most * 10) / 10.0;
+    if (One_In(4)) object.thickness_mm = From(0, 30) / 10.0;
+    return object;
+  }
+
+  bool One_In(int count) { return From(1, count) == 1; }
   int From(int least, int most) {
     return least + static_cast<int>(random_() % static_cast<unsigned>(most - least + 1));
   }
@@ -65,5 +84,12 @@ class RandomObjects {
  private:
   std::mt19937 random_;
 };
+
+/// The object with whole millimetres.
+inline Object Whole(Object object) {
+  object.thickness_mm = std::trunc(object.thickness_mm);
+  object.diameter_mm = std::trunc(object.diameter_mm);
+  return object;
+}
 
 }  // namespace norvane
