@@ -13,7 +13,8 @@ install_packages "to build the fuzzers" clang libclang-rt-dev llvm cmake ninja-b
 cmake --preset fuzz -DNORVANE_WERROR=ON >/dev/null
 cmake --build --preset fuzz
 
-fuzzers="address_files export language_files numbers settings_file user_events"
+fuzzers="address_files export language_files numbers schedule_file schedule_rows settings_file
+  user_events"
 finds=build/fuzz-finds
 mkdir -p "$finds"
 # shellcheck disable=SC2086
