@@ -34,6 +34,9 @@ echo "== fuzz"
 cmake --preset fuzz -DNORVANE_WERROR=ON >/dev/null
 cmake --build --preset fuzz
 
+echo "== windows"
+tests/windows/build
+
 # CMake leaves out the tests of what it doesn't find.
 for label in quick batch library desktop accessibility office faults soak worlds; do
   ctest --test-dir build/release -N -L "^$label\$" | grep -q "Test *#" ||
@@ -44,4 +47,5 @@ tests/check_sources build/clang
 ctest --test-dir build/clang --output-on-failure -L quick -j 2
 ctest --test-dir build/sanitize --output-on-failure -L quick -j 2
 ctest --test-dir build/fuzz --output-on-failure -j 2
+tests/windows/run
 ctest --test-dir build/release --output-on-failure -j 2

@@ -6,6 +6,8 @@
 #include "driver/headless_platform.h"
 #include "driver/script.h"
 #include "host/failed_writes.h"
+#include "host/folder.h"
+#include "host/program_start.h"
 
 namespace {
 
@@ -23,13 +25,14 @@ char Decimal_Separator(const std::vector<std::string>& arguments) {
 
 int main(int argc, char** argv) {
   norvane::Let_Writes_Fail();
-  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  norvane::Let_Streams_Be_Bytes();
+  const std::vector<std::string> arguments = norvane::Arguments(argc, argv);
   const char decimal_separator = arguments.empty() ? '\0' : Decimal_Separator(arguments);
-  if (decimal_separator == 0 || !std::filesystem::is_directory(arguments[0])) {
+  if (decimal_separator == 0 || !std::filesystem::is_directory(norvane::To_Path(arguments[0]))) {
     std::cerr << "usage: norvane-driver FOLDER [--locale point|comma] < script > output\n";
     return kUsage;
   }
-  norvane::HeadlessPlatform platform(arguments[0], decimal_separator, std::cout);
+  norvane::HeadlessPlatform platform(norvane::To_Path(arguments[0]), decimal_separator, std::cout);
   norvane::Script script(platform, std::cin, std::cout, std::cerr);
   return static_cast<int>(script.Run());
 }

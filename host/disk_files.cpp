@@ -1,10 +1,10 @@
 #include "host/disk_files.h"
 
 #include <algorithm>
-#include <system_error>
 #include <utility>
 
 #include "data/text.h"
+#include "host/folder.h"
 #include "host/plain_file.h"
 #include "host/replace_file.h"
 
@@ -37,17 +37,20 @@ bool Fits(std::string_view name, std::string_view pattern) {
                      [](char c) { return c == '*'; });
 }
 
-/// The entry of a folder that has the name, in any case; the name as it is when there is none.
-fs::path Entry_Of(const fs::path& folder, const std::string& name) {
-  std::error_code error;
-  if (fs::exists(folder / name, error)) return folder / name;
+/// The entry of a folder that has the name, in any case of its ASCII letters.
+std::optional<std::string> Entry_Of(const fs::path& folder, const std::string& name) {
+  if (Has_Entry(folder, name)) return name;
   const std::string lower = Lower(name);
-  std::vector<fs::path> fitting;
-  for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-    if (Lower(at->path().filename().string()) == lower) fitting.push_back(at->path());
+  std::optional<std::string> fitting;
+  for (const FolderEntry& entry : Entries_Of(folder)) {
+    if (Lower(entry.name) == lower && (!fitting || entry.name < *fitting)) fitting = entry.name;
   }
-  if (fitting.empty()) return folder / name;
-  return *std::min_element(fitting.begin(), fitting.end());
+  return fitting;
+}
+
+/// The same as a path; the name as it is when there is none.
+fs::path Entry_Path(const fs::path& folder, const std::string& name) {
+  return Path_In(folder, Entry_Of(folder, name).value_or(name));
 }
 
 /// A name with "\\" between folders, as the folder that it lies in and its last part.
@@ -55,7 +58,7 @@ std::pair<fs::path, std::string> Folder_And_Name(fs::path folder, const std::str
   std::size_t begin = 0;
   for (std::size_t end = name.find_first_of("\\/"); end != std::string::npos;
        end = name.find_first_of("\\/", begin)) {
-    if (end > begin) folder = Entry_Of(folder, name.substr(begin, end - begin));
+    if (end > begin) folder = Entry_Path(folder, name.substr(begin, end - begin));
     begin = end + 1;
   }
   return {folder, name.substr(begin)};
@@ -69,13 +72,10 @@ std::vector<std::string> DiskFiles::List(const std::string& pattern) const {
   const auto [folder, name_pattern] = Folder_And_Name(folder_, pattern);
   const std::string wanted = Lower(name_pattern);
   std::vector<std::pair<std::string, std::string>> found;  // lower case, as it stands
-  std::error_code error;
-  for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-    std::string name = at->path().filename().string();
-    std::string lower = Lower(name);
-    std::error_code no_status;
-    if (Fits(lower, wanted) && !at->is_directory(no_status)) {
-      found.emplace_back(std::move(lower), std::move(name));
+  for (FolderEntry& entry : Entries_Of(folder)) {
+    std::string lower = Lower(entry.name);
+    if (!entry.is_folder && Fits(lower, wanted)) {
+      found.emplace_back(std::move(lower), std::move(entry.name));
     }
   }
   std::sort(found.begin(), found.end());
@@ -86,11 +86,13 @@ std::vector<std::string> DiskFiles::List(const std::string& pattern) const {
 
 fs::path DiskFiles::Path_Of(const std::string& name) const {
   const auto [folder, bare] = Folder_And_Name(folder_, name);
-  return Entry_Of(folder, bare);
+  return Entry_Path(folder, bare);
 }
 
 std::optional<std::string> DiskFiles::Read(const std::string& name) const {
-  return Bytes_Of(Path_Of(name));
+  const auto [folder, bare] = Folder_And_Name(folder_, name);
+  const auto entry = Entry_Of(folder, bare);
+  return entry ? Bytes_Of(Path_In(folder, *entry)) : std::nullopt;
 }
 
 void DiskFiles::Rewrite(const std::string& name,

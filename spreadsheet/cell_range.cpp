@@ -22,7 +22,16 @@ Cell Read_Cell(std::string_view text) {
   return {text[0] - 'A', number - 1};
 }
 
+std::string Cell_Text(int column, int row) {
+  return static_cast<char>('A' + column) + std::to_string(row + 1);
+}
+
 }  // namespace
+
+std::string Range_Text(const CellRange& range) {
+  return Cell_Text(range.first_column, range.first_row) + ":" +
+         Cell_Text(range.last_column, range.last_row);
+}
 
 CellRange Read_Range(const std::string& text) {
   const std::size_t colon = text.find(':');

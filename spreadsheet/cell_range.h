@@ -26,7 +26,10 @@ struct CellRange {
 /// `SpreadsheetFailure` for another text.
 CellRange Read_Range(const std::string& text);
 
-/// The same for a range of one row that has a value for each of its cells.
+/// The text of a range, with both its corners: "A1:A1" for a single cell. Columns "A" to "Z".
+std::string Range_Text(const CellRange& range);
+
+/// As `Read_Range`, for a range of one row that has a value for each of its cells.
 CellRange Read_Row(const std::string& text, const std::vector<CellValue>& values);
 
 /// The values with their texts in UTF-8; `charset` is the Windows character set that they come in.

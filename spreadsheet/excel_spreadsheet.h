@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -7,13 +8,21 @@
 
 #include "host/disk_files.h"
 #include "platform/spreadsheet.h"
+#include "spreadsheet/block_writer.h"
+#include "spreadsheet/patient_thread.h"
 
 namespace norvane {
 
-/// Excel on Windows, asked by the names of its own object model.
+class Excel;
+
+/// Excel on Windows, on a thread of its own: it may be busy, or ask the user something. Rows that
+/// are written one below the other go over as one range of several rows; all else is one operation
+/// each. A workbook that is opened without an application having been asked for is opened by its
+/// file.
 class ExcelSpreadsheet : public Spreadsheet {
  public:
-  explicit ExcelSpreadsheet(const std::filesystem::path& program_folder);
+  ExcelSpreadsheet(const std::filesystem::path& program_folder, SpreadsheetWaiting& waiting,
+                   std::chrono::milliseconds patience = std::chrono::seconds(60));
   ~ExcelSpreadsheet() override;
 
   static bool Is_Installed();
@@ -31,11 +40,22 @@ class ExcelSpreadsheet : public Spreadsheet {
   void Release() override;
 
  private:
-  struct Objects;
+  struct Work;
+
+  template <class Step>
+  auto Run(Step step) -> decltype(step(std::declval<Excel&>()));
+  void Write_Block(const CellBlock& block);
 
   DiskFiles files_;
-  std::unique_ptr<Objects> objects_;
+  SpreadsheetWaiting& waiting_;
+  std::chrono::milliseconds patience_;
+
+  // From the first operation to the release:
+  std::shared_ptr<Work> work_;
+  std::unique_ptr<PatientThread> thread_;
+  bool application_asked_for_ = false;
   int charset_ = 0;
+  BlockWriter rows_;
 };
 
 }  // namespace norvane

@@ -50,8 +50,8 @@ std::unique_ptr<Spreadsheet> Make_Spreadsheet(
   candidates.push_back(LibreOffice(program_folder, waiting));
 #endif
 #ifdef NORVANE_WITH_EXCEL
-  candidates.push_back(
-      {ExcelSpreadsheet::Is_Installed, std::make_unique<ExcelSpreadsheet>(program_folder)});
+  candidates.push_back({ExcelSpreadsheet::Is_Installed,
+                        std::make_unique<ExcelSpreadsheet>(program_folder, waiting)});
 #endif
 #ifdef NORVANE_WITH_XLSX
   candidates.push_back(Workbook_File(program_folder, waiting));

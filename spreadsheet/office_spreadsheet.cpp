@@ -15,14 +15,17 @@ constexpr std::chrono::milliseconds kBetweenTries{50};
 constexpr std::chrono::milliseconds kBetweenCalls{300};
 constexpr std::chrono::seconds kForHandedOver{10};  // after the call was taken
 constexpr int kCalls = 3;
-constexpr std::size_t kRowsAtOnce = 500;
-constexpr std::size_t kLongList = 1000;
 
 }  // namespace
 
 OfficeSpreadsheet::OfficeSpreadsheet(const std::filesystem::path& program_folder,
                                      SpreadsheetWaiting& waiting, OfficeMeans means)
-    : files_(program_folder), waiting_(waiting), means_(std::move(means)) {}
+    : files_(program_folder),
+      waiting_(waiting),
+      means_(std::move(means)),
+      rows_(
+          waiting, [this](const CellBlock& block) { Write(block); },
+          [this] { return thread_->Lost(); }) {}
 
 /// Carries out a step on the thread of the office, whose calls may block.
 template <class Step>
@@ -117,7 +120,7 @@ void OfficeSpreadsheet::Select(int sheet) {
 }
 
 void OfficeSpreadsheet::ClearContents(const std::string& range) {
-  Flush();
+  rows_.Flush();
   Run_On_Book([cells = Read_Range(range)](Office& office) { office.Clear(cells); });
 }
 
@@ -125,16 +128,15 @@ void OfficeSpreadsheet::Value(const std::string& range, const std::vector<CellVa
   if (book_ == Book::kNone) throw SpreadsheetFailure();
   const CellRange row = Read_Row(range, values);
   if (row.Columns() == 1) {
-    Flush();
+    rows_.Flush();
     Write({row.first_column, row.first_row, {In_Utf8(values, charset_)}});
     return;
   }
-  if (!gathered_.Takes(row)) Flush();
-  gathered_.Add(row, In_Utf8(values, charset_));
+  rows_.Add(row, In_Utf8(values, charset_));
 }
 
 void OfficeSpreadsheet::Bold(const std::string& range) {
-  Flush();
+  rows_.Flush();
   Run_On_Book([cells = Read_Range(range)](Office& office) { office.Bold(cells); });
 }
 
@@ -142,41 +144,8 @@ void OfficeSpreadsheet::Write(CellBlock block) {
   Run([block = std::move(block)](Office& office) { office.Write(block); });
 }
 
-void OfficeSpreadsheet::Flush() {
-  const CellBlock all = gathered_.Take();
-  const std::size_t total = all.rows.size();
-  for (std::size_t done = 0; done < total && !thread_->Lost();) {
-    const std::size_t end = std::min(done + kRowsAtOnce, total);
-    CellBlock part{all.first_column, all.first_row + static_cast<int>(done), {}};
-    part.rows.assign(all.rows.begin() + static_cast<std::ptrdiff_t>(done),
-                     all.rows.begin() + static_cast<std::ptrdiff_t>(end));
-    try {
-      Write(part);
-    } catch (const SpreadsheetFailure&) {
-      Write_Row_By_Row(part);
-    }
-    done = end;
-    if (total < kLongList) continue;
-    waiting_.Progress(static_cast<int>(done), static_cast<int>(total));
-    told_progress_ = true;
-  }
-}
-
-/// A row that can't be written keeps no other from being written.
-void OfficeSpreadsheet::Write_Row_By_Row(const CellBlock& block) {
-  int row = block.first_row;
-  for (const auto& values : block.rows) {
-    if (thread_->Lost()) return;
-    try {
-      Write({block.first_column, row++, {values}});
-    } catch (const SpreadsheetFailure&) {
-      // As with any step that fails, the next one is tried.
-    }
-  }
-}
-
 void OfficeSpreadsheet::Leave() {
-  Flush();
+  rows_.Flush();
   // An office that was started and has no book to show would be there unseen.
   if (created_ && book_ == Book::kNone && !thread_->Lost()) means_.call({});
   Run([](Office& office) { office.Leave(); });
@@ -189,7 +158,7 @@ void OfficeSpreadsheet::Release() {
   } catch (const SpreadsheetFailure&) {
     // There is nothing left to let go of.
   }
-  if (std::exchange(told_progress_, false)) waiting_.Progress(0, 0);
+  rows_.End();
   thread_.reset();
   office_.reset();
   reached_ = false;

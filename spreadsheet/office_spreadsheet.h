@@ -10,9 +10,9 @@
 
 #include "host/disk_files.h"
 #include "platform/spreadsheet.h"
+#include "spreadsheet/block_writer.h"
 #include "spreadsheet/office.h"
 #include "spreadsheet/patient_thread.h"
-#include "spreadsheet/row_gatherer.h"
 #include "spreadsheet/started_program.h"
 
 namespace norvane {
@@ -62,9 +62,7 @@ class OfficeSpreadsheet : public Spreadsheet {
   bool Answers_Call(std::chrono::steady_clock::time_point end);
   bool Connect();
   void Show();
-  void Flush();
   void Write(CellBlock block);
-  void Write_Row_By_Row(const CellBlock& block);
   void Leave();
 
   DiskFiles files_;
@@ -78,10 +76,9 @@ class OfficeSpreadsheet : public Spreadsheet {
   bool reached_ = false;
   bool called_ = false;  ///< one call is enough to know whether there is an answer
   bool created_ = false;
-  bool told_progress_ = false;
   Book book_ = Book::kNone;
   int charset_ = 0;
-  RowGatherer gathered_;
+  BlockWriter rows_;
 };
 
 }  // namespace norvane

@@ -17,11 +17,13 @@ namespace fs = std::filesystem;
 constexpr std::chrono::seconds kPatience{60};
 
 /// A new file's path in a new folder that is the user's alone.
-fs::path New_File(const std::string& title) {
+fs::path New_File(const fs::path& title) {
   const fs::path folder = fs::temp_directory_path() / ("norvane-" + Random_Digits());
   if (!fs::create_directory(folder)) throw SpreadsheetFailure();
   fs::permissions(folder, fs::perms::owner_all);
-  return folder / (title + ".xlsx");
+  fs::path file = folder / title;
+  file += ".xlsx";
+  return file;
 }
 
 /// What could not be written leaves nothing behind.
@@ -54,7 +56,7 @@ void XlsxSpreadsheet::Open(const std::string& name, int charset) {
   const fs::path path = files_.Path_Of(name);
   std::error_code error;
   if (!fs::is_regular_file(path, error)) throw SpreadsheetFailure();
-  book_ = Book{path.stem().string(), charset, {}};
+  book_ = Book{path.stem(), charset, {}};
 }
 
 void XlsxSpreadsheet::Set_Book_Visible() { Need_Book(); }

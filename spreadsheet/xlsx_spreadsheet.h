@@ -43,7 +43,7 @@ class XlsxSpreadsheet : public Spreadsheet {
 
  private:
   struct Book {
-    std::string title;
+    std::filesystem::path title;
     int charset = 0;
     Workbook cells;
   };

@@ -22,10 +22,16 @@ double Letters(const std::string& text) {
   }));
 }
 
+/// As the library takes it: in UTF-8 on systems that don't name files by bytes.
+std::string Name_Of(const std::filesystem::path& file) {
+  const std::u8string name = file.u8string();
+  return {name.begin(), name.end()};
+}
+
 class WorkbookWriter {
  public:
   WorkbookWriter(const Workbook& book, const std::filesystem::path& file)
-      : book_(book), file_(workbook_new(file.string().c_str())) {}
+      : book_(book), file_(workbook_new(Name_Of(file).c_str())) {}
 
   ~WorkbookWriter() {
     if (file_ != nullptr) workbook_close(file_);

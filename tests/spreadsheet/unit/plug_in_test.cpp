@@ -2,13 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <memory>
 #include <string>
 
 #include "spreadsheet/xlsx_spreadsheet.h"
 #include "test_folder.h"
 #include "test_waiting.h"
+#include "user_temporary_folder.h"
 
 namespace norvane {
 namespace {
@@ -27,7 +27,7 @@ class AWorkbookFile : public testing::Test {
  protected:
   AWorkbookFile() { folder_.Write("total.xls", "a template"); }
 
-  void Install() { fs::create_symlink(WORKBOOK_PLUG_IN, folder_ / "norvane_workbook.so"); }
+  void Install() { fs::copy_file(WORKBOOK_PLUG_IN, folder_ / "norvane_workbook.so"); }
   void Write_Book(const std::string& name = "total.xls") {
     spreadsheet_.Open(name, 0);
     spreadsheet_.Value("A1:B1", {std::string("a"), 2.5});
@@ -56,16 +56,15 @@ TEST_F(AWorkbookFile, ThatCannotBeWrittenLeavesNothingBehind) {
   constexpr std::size_t kLongestName = 255;
   const std::string name = std::string(kLongestName - 4, 't') + ".xls";
   folder_.Write(name, "a template");
-  const fs::path temporary = folder_ / "temporary";
+  const fs::path temporary = folder_ / "temporary \u00D6 \u03A9";
   fs::create_directory(temporary);
-  setenv("TMPDIR", temporary.c_str(), 1);
+  const UserTemporaryFolder users(temporary);
   Write_Book(name);
   EXPECT_TRUE(opened_.empty());
   EXPECT_TRUE(fs::is_empty(temporary));
   Write_Book();
   EXPECT_EQ(opened_.size(), 1U);
   EXPECT_FALSE(fs::is_empty(temporary));
-  unsetenv("TMPDIR");
 }
 
 TEST_F(AWorkbookFile, IsNotThereWithoutThePlugIn) {

@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <string>
 
 #include "../data/error_of.h"
 #include "../support/test_program.h"
+#include "../support/unreadable_file.h"
 #include "catalogue/address_form.h"
 
 namespace norvane {
@@ -44,7 +44,7 @@ TEST_F(AddressFiles, HaveTheirNumberInThreeLettersOfTheirNames) {
 
 TEST_F(AddressFiles, EndAtTheFirstThatCannotBeOpened) {
   Write(1, "1,first");
-  std::filesystem::create_symlink("nowhere", program_.folder / "Address2.txt");
+  const UnreadableFile second(program_.folder / "Address2.txt");
   Write(3, "1,third");
   Load();
   EXPECT_EQ(Field_Of(1, 1), "first");

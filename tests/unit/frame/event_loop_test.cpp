@@ -6,6 +6,7 @@
 
 #include "../support/test_folder.h"
 #include "../support/test_program.h"
+#include "../support/unreadable_file.h"
 #include "frame/about_form.h"
 #include "frame/lang_form.h"
 #include "screen/warmt.h"
@@ -48,7 +49,7 @@ class AnEventLoop : public testing::Test {
 };
 
 TEST_F(AnEventLoop, DeliversNoTickWhileAMessageOfTheStartStandsOpen) {
-  std::filesystem::create_symlink("nowhere", folder_ / "language.lde");
+  const UnreadableFile german(folder_ / "language.lde");
   platform_.on_message = [this] { Tick_Three_Times(); };
   program_.Main();
   EXPECT_EQ(out_.str(), "message Norvane | Unable to find Language file | none | ok -> ok\n");

@@ -1,13 +1,13 @@
 #include "frame/language.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <random>
 #include <string>
 
 #include "../support/test_program.h"
+#include "../support/unreadable_file.h"
 #include "catalogue/settings_form.h"
 #include "data/text.h"
 #include "frame/lang_form.h"
@@ -149,7 +149,7 @@ TEST_F(LanguageFiles, AreCountedFromEnglishOn) {
 }
 
 TEST_F(LanguageFiles, ThatCannotBeOpenedAreToldAndPassedOver) {
-  ASSERT_EQ(mkfifo((program_.folder / "language.lde").c_str(), 0600), 0);
+  const UnreadableFile german(program_.folder / "language.lde");
   program_.folder.Write("language.lfr", "a,b,0\r\n18,texte");
   Find_Languages(program_.State());
   EXPECT_EQ(program_.Printed(),

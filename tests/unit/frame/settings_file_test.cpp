@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "../data/error_of.h"
-#include "../support/child_process.h"
 #include "../support/test_program.h"
 
 namespace norvane {
@@ -117,21 +116,6 @@ TEST_F(WrittenSetting, GoesToTheFileOfAnySpelling) {
   Write("Setting", "Days", "7");
   EXPECT_EQ(program_.folder.Bytes_Of("NORVANE.INI"), "[Setting]\r\nDays=7\r\n");
   EXPECT_EQ(program_.folder.Names(), (std::vector<std::string>{"NORVANE.INI", "language.len"}));
-}
-
-TEST_F(WrittenSetting, IsNotLostToAnotherProgramInTheSameFolder) {
-  constexpr int kKeys = 25;
-  const auto write_keys = [this](const std::string& section) {
-    for (int i = 0; i < kKeys; ++i) Write(section, "key" + std::to_string(i), std::to_string(i));
-  };
-  ChildProcess other([&] { write_keys("Other"); });
-  write_keys("Setting");
-  ASSERT_TRUE(other.Wait());
-  for (int i = 0; i < kKeys; ++i) {
-    const std::string number = std::to_string(i);
-    EXPECT_EQ(Read("Setting", "key" + number, "lost"), number);
-    EXPECT_EQ(Read("Other", "key" + number, "lost"), number);
-  }
 }
 
 TEST_F(SettingsFile, OfANewFolderHoldsTheStartOfTheDewPointTableAfterTheStart) {

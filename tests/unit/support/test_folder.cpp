@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <random>
 
 namespace norvane {
 namespace {
@@ -22,9 +22,10 @@ fs::path Parent() {
 }  // namespace
 
 TestFolder::TestFolder() {
-  std::string name = (Parent() / "norvane-test-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw fs::filesystem_error("mkdtemp", name, {});
-  path_ = name;
+  std::random_device device;
+  do {
+    path_ = Parent() / ("norvane-test-" + std::to_string(device()));
+  } while (!fs::create_directory(path_));
 }
 
 TestFolder::~TestFolder() {
@@ -33,12 +34,16 @@ TestFolder::~TestFolder() {
   fs::remove_all(path_, error);
 }
 
+fs::path TestFolder::operator/(const std::string& name) const {
+  return path_ / std::u8string(name.begin(), name.end());
+}
+
 void TestFolder::Write(const std::string& name, const std::string& bytes) const {
-  std::ofstream(path_ / name, std::ios::binary) << bytes;
+  std::ofstream(*this / name, std::ios::binary) << bytes;
 }
 
 std::string TestFolder::Bytes_Of(const std::string& name) const {
-  std::ifstream file(path_ / name, std::ios::binary);
+  std::ifstream file(*this / name, std::ios::binary);
   EXPECT_TRUE(file) << name << " can't be opened";
   return {std::istreambuf_iterator<char>(file), {}};
 }
@@ -46,7 +51,8 @@ std::string TestFolder::Bytes_Of(const std::string& name) const {
 std::vector<std::string> TestFolder::Names() const {
   std::vector<std::string> names;
   for (const auto& entry : fs::directory_iterator(path_)) {
-    names.push_back(entry.path().filename().string());
+    const std::u8string name = entry.path().filename().u8string();
+    names.emplace_back(name.begin(), name.end());
   }
   std::sort(names.begin(), names.end());
   return names;

@@ -15,7 +15,8 @@ class TestFolder {
   TestFolder& operator=(const TestFolder&) = delete;
 
   const std::filesystem::path& Path() const { return path_; }
-  std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
+  /// Names are UTF-8 where the system doesn't name files by bytes.
+  std::filesystem::path operator/(const std::string& name) const;
 
   void Write(const std::string& name, const std::string& bytes) const;
   /// The bytes of a file; fails the test when it can't be opened.
