@@ -63,16 +63,17 @@ TEST_F(Courtesies, Ctrl_C_On_The_Results_Copies_Them_As_Aligned_Text) {
   EXPECT_TRUE(Results().hasFocus());
   Press(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->text(),
-            "Thermal conductivity          0.039 W/mK\n"
-            "Heat transfer coefficient      12.5 W/m\u00B2K\n"
-            "Surface temperature            22.8 \u00B0C\n"
-            "Heat loss without insulation   25.5 W/m\n"
-            "Heat loss with insulation      11.0 W/m\n"
-            "Savings (Hours/day: 24, Days:  30, Metres or m\u00B2:  1)\n"
-            "Saving                        14.54 W/m     57%\n"
-            "Natural gas saving             1.08 m\u00B3\n"
-            "Heating oil saving             0.86 litres\n"
-            "Electricity saving            10.47 kWh\n");
+            Number("Thermal conductivity          0.039 W/mK\n"
+                   "Heat transfer coefficient      12.5 W/m\u00B2K\n"
+                   "Surface temperature            22.8 \u00B0C\n"
+                   "Heat loss without insulation   25.5 W/m\n"
+                   "Heat loss with insulation      11.0 W/m\n"
+                   "Savings (Hours/day: 24, Days:  30, Metres or m\u00B2:  1)\n"
+                   "Saving                        14.54 W/m     57%\n"
+                   "Natural gas saving             1.08 m\u00B3\n"
+                   "Heating oil saving             0.86 litres\n"
+                   "Electricity saving            10.47 kWh\n")
+                .c_str());
 }
 
 TEST_F(Courtesies, In_The_Other_Mode_The_Copy_Holds_The_Rows_That_Show) {
@@ -93,7 +94,8 @@ TEST_F(Courtesies, The_Way_To_The_Totals_Tells_How_Many_Lines_Wait) {
 TEST_F(Courtesies, A_Value_Is_Told_With_Its_Heading_And_Unit) {
   Mark(Screen().txtT(2));
   Type("13");
-  EXPECT_EQ(Widget(Screen().Label4(4)).accessibleName(), "Heat loss with insulation: 11.0 W/m");
+  EXPECT_EQ(Widget(Screen().Label4(4)).accessibleName(),
+            Number("Heat loss with insulation: 11.0 W/m").c_str());
   EXPECT_EQ(Widget(Screen().Label4(5)).accessibleName(), "Saving: 57%");
   EXPECT_EQ(Widget(Screen().txtT(2)).accessibleName(), "Insulation thickness");
   EXPECT_EQ(Widget(Screen().txtT(2)).accessibleDescription(), "mm");

@@ -94,7 +94,7 @@ class SessionByMouse : public Sessions {
     for (int i = 0; i < 3; ++i) Step_Up(Screen().SpinButton1(2));
     EXPECT_EQ(Shown(Screen().txtT(3)), "21");
     EXPECT_EQ(Shown(Screen().txtT(2)), "13");
-    EXPECT_EQ(Shown(Screen().Label4(6)), "36.58");
+    EXPECT_EQ(Shown(Screen().Label4(6)), Number("36.58"));
   }
   void Save_With_Second_Product() {
     auto& products = dynamic_cast<QComboBox&>(Widget(Screen().Combo1));

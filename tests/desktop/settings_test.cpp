@@ -67,7 +67,7 @@ TEST_F(SettingsDialog, A_Number_Can_Be_Typed_As_Soon_As_It_Is_Open) {
     Type("20");
     Press(Qt::Key_Return);
   });
-  EXPECT_EQ(Shown(Screen().Label4(1)), "20.0");
+  EXPECT_EQ(Shown(Screen().Label4(1)), Number("20.0"));
 }
 
 TEST_F(SettingsDialog, Enter_On_Cancel_Cancels) {
@@ -77,7 +77,7 @@ TEST_F(SettingsDialog, Enter_On_Cancel_Cancels) {
     Press(Qt::Key_Return);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !View(Dialog()).isVisible(); }, 1000));
   });
-  EXPECT_EQ(Shown(Screen().Label4(1)), "12.5");
+  EXPECT_EQ(Shown(Screen().Label4(1)), Number("12.5"));
 }
 
 TEST_F(SettingsDialog, It_Stands_Over_The_Main_Screen) {
@@ -213,14 +213,14 @@ TEST_F(SettingsDialog, A_New_Alpha_Turns_Its_Field_Red) {
     Type("8");
     Press(Qt::Key_Return);
   });
-  EXPECT_EQ(Shown(Screen().Label4(1)), "8.0");
+  EXPECT_EQ(Shown(Screen().Label4(1)), Number("8.0"));
   EXPECT_EQ(Ground_Of(Screen().Label4(1)), QColor(255, 0, 0));
   With_Dialog(Screen().cmdToolBar3(0), [this] {
     Mark(Dialog().Text3);
     Type("12.5");
     Press(Qt::Key_Return);
   });
-  EXPECT_EQ(Shown(Screen().Label4(1)), "12.5");
+  EXPECT_EQ(Shown(Screen().Label4(1)), Number("12.5"));
   EXPECT_EQ(Ground_Of(Screen().Label4(1)), QColor(224, 224, 224));
 }
 

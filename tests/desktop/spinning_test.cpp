@@ -96,7 +96,7 @@ TEST_F(Spinning, Arrow_Keys_Do_Nothing_In_A_Field_Without_Its_Spin_Pair) {
   EXPECT_FALSE(Widget(Screen().SpinButton1(2)).isVisible());
   Click(Screen().txtC(2));
   Press(Qt::Key_Up);
-  EXPECT_EQ(Shown(Screen().txtC(2)), "1.7");
+  EXPECT_EQ(Shown(Screen().txtC(2)), Number("1.7"));
   EXPECT_EQ(Screen().txtT(2).Text(), "0");
 }
 

@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QTest>
 #include <QThread>
+#include <clocale>
 
 #include "window_test.h"
 
@@ -17,6 +18,13 @@ int Status_Of(const std::function<void()>& inside) {
 }
 
 class Start : public DesktopTest {};
+
+TEST_F(Start, Leaves_A_Point_To_What_Libraries_Read_And_Write_By_C_Functions) {
+  EXPECT_STREQ(localeconv()->decimal_point, ".");
+  desktop.Start();
+  Screen();
+  EXPECT_STREQ(localeconv()->decimal_point, ".");
+}
 
 TEST_F(Start, The_Splash_Screen_Hands_Over_At_The_Third_Tick_Of_Its_Timer) {
   QElapsedTimer clock;

@@ -164,10 +164,10 @@ TEST_F(States, Heat_Flows_Are_Per_Square_Metre_On_A_Sheet) {
   EXPECT_EQ(Shown(Screen().Label0), "Flat surface");
   Mark(Screen().txtT(2));
   Type("50");
-  EXPECT_EQ(Shown(Screen().Label4(2)), "18.8");
-  EXPECT_EQ(Shown(Screen().Label4(3)), "812.5");
-  EXPECT_EQ(Shown(Screen().Label4(4)), "47.9");
-  EXPECT_EQ(Shown(Screen().Label4(9)), "550.54");
+  EXPECT_EQ(Shown(Screen().Label4(2)), Number("18.8"));
+  EXPECT_EQ(Shown(Screen().Label4(3)), Number("812.5"));
+  EXPECT_EQ(Shown(Screen().Label4(4)), Number("47.9"));
+  EXPECT_EQ(Shown(Screen().Label4(9)), Number("550.54"));
 }
 
 TEST_F(States, The_Product_List_Goes_With_The_Kind) {

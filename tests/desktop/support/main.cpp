@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QLocale>
 #include <QPalette>
 
 #include "frame/version.h"
@@ -38,6 +37,5 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariable("NORVANE_PALETTE") == QLatin1String("dark")) {
     QApplication::setPalette(Dark_Palette());
   }
-  QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
   return RUN_ALL_TESTS();
 }

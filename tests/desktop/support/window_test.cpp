@@ -1,12 +1,26 @@
 #include "window_test.h"
 
+#include <langinfo.h>
+#include <locale.h>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QCursor>
 #include <QScreen>
+#include <algorithm>
 #include <stdexcept>
+#include <string_view>
 
 namespace norvane {
+
+std::string Number(std::string text) {
+  // Asked of the C library, since the program asks Qt.
+  const locale_t user = newlocale(LC_NUMERIC_MASK, "", nullptr);
+  const char* sign = user == nullptr ? "." : nl_langinfo_l(RADIXCHAR, user);
+  if (std::string_view(sign) == ",") std::replace(text.begin(), text.end(), '.', ',');
+  if (user != nullptr) freelocale(user);
+  return text;
+}
 
 DesktopTest::DesktopTest(const Desktop::SpreadsheetMaker& make_spreadsheet)
     : desktop(folder.Path(), make_spreadsheet) {

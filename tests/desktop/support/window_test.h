@@ -22,6 +22,9 @@
 
 namespace norvane {
 
+/// A text with decimal points as the user's locale writes it.
+std::string Number(std::string text);
+
 /// The whole program on the display, not started yet.
 class DesktopTest : public testing::Test {
  protected:
