@@ -17,7 +17,8 @@ fi
 
 install_packages "to run all tests of Norvane" \
   clang clang-tidy clang-format doxygen libclang-rt-dev llvm ccache xvfb openbox \
-  libreoffice-calc libreoffice-dev libxlsxwriter-dev libminizip-dev libexpat1-dev locales python3-uno xdotool \
+  libreoffice-calc libreoffice-dev libxlsxwriter-dev libminizip-dev libexpat1-dev locales python3-openpyxl \
+  python3-uno xdotool \
   exfat-fuse exfatprogs at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi libxres-dev git \
   python3 parallel groff pkg-config
 

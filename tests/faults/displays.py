@@ -1,7 +1,6 @@
-"""The real windows on a display that goes away, and under a locale with an odd decimal sign."""
+"""The real windows on a display that goes away."""
 
 import os
-import pathlib
 import shutil
 import subprocess
 import tempfile
@@ -9,40 +8,11 @@ import time
 
 from program import PATIENCE, Skipped, expect
 
-LOCALE = "ps_AF"  # its decimal sign is U+066B
-
 
 def plain_environment(home):
     kept = {name: os.environ[name] for name in ("PATH",)}
     return {**kept, "HOME": str(home), "XDG_RUNTIME_DIR": str(home), "QT_QPA_PLATFORM": "xcb",
             "QT_ACCESSIBILITY": "0", "LC_ALL": "C.UTF-8"}
-
-
-def odd_decimal_sign(program):
-    if program.short:
-        raise Skipped("left out of the short form")
-    tour = program.build / "desktop/norvane-tour"
-    if not tour.exists():
-        raise Skipped("norvane-tour isn't built")
-    if not pathlib.Path("/usr/share/i18n/locales", LOCALE).exists():
-        raise Skipped("the package locales is missing")
-    home = program.new_place()
-    subprocess.run(["localedef", "-i", LOCALE, "-f", "UTF-8", home / f"{LOCALE}.UTF-8"],
-                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
-    codes = [file.suffix[2:] for file in program.installed.glob("language.l??")]
-    answers = []
-    for locale in ("C.UTF-8", f"{LOCALE}.UTF-8"):
-        environment = {**plain_environment(home), "QT_QPA_PLATFORM": "offscreen",
-                       "LOCPATH": str(home), "LC_ALL": locale}
-        folder = program.folder(languages=codes)
-        shutil.copy(program.installed / "total.xls", folder)
-        run = subprocess.run([tour, folder, home / "pictures"], env=environment, cwd=home,
-                             stdout=subprocess.PIPE, timeout=PATIENCE, check=False)
-        expect(f"the exit status under {locale}", run.returncode, 0)
-        answers.append(run.stdout)
-    expect("a number with a point", b"0.0" in answers[0], True)
-    expect(f"the answers under {LOCALE}", answers[1], answers[0])
-    return "points, and the answers of a locale with a point"
 
 
 def wait_until(condition, what):

@@ -216,7 +216,7 @@ TEST_F(TheExportToLibreOffice, FillsTheTableOfDewPoints) {
       EXPECT_EQ(cells[next].name,
                 std::string(1, static_cast<char>('@' + column)) + std::to_string(row));
       EXPECT_EQ(cells[next].type, "VALUE");
-      EXPECT_EQ(std::stod(cells[next].shown), static_cast<double>(table(row, column)));
+      EXPECT_EQ(cells[next].Number(), static_cast<double>(table(row, column)));
     }
     EXPECT_EQ(cells[next++],
               (SeenCell{"Q" + std::to_string(row), "VALUE", std::to_string(row) + ".0"}));

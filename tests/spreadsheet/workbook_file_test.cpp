@@ -97,7 +97,7 @@ TEST_F(AMachineWithoutAnOffice, GetsTheTableOfDewPoints) {
       const SeenCell& cell = cells[static_cast<std::size_t>((row - 1) * 17 + column - 1)];
       EXPECT_EQ(cell.type, "VALUE");
       // The file holds 16 digits, which tell all singles apart.
-      EXPECT_EQ(std::stof(cell.shown), static_cast<float>(table(row, column)));
+      EXPECT_EQ(static_cast<float>(cell.Number()), static_cast<float>(table(row, column)));
     }
   }
 }

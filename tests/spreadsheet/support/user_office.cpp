@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <charconv>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
@@ -107,9 +108,11 @@ void UserOffice::Start_Ordinarily() {
 }
 
 void UserOffice::Close_Window(const std::string& title) const {
+  // Under a locale that the display's library doesn't know it finds no names.
+  const std::string tool = "LC_ALL=C.UTF-8 xdotool ";
   const std::string focus =
-      "xdotool search --sync --onlyvisible --name '" + title + "' windowfocus --sync";
-  EXPECT_EQ(std::system((focus + " && xdotool key alt+F4").c_str()), 0);
+      tool + "search --sync --onlyvisible --name '" + title + "' windowfocus --sync";
+  EXPECT_EQ(std::system((focus + " && " + tool + "key alt+F4").c_str()), 0);
 }
 
 std::vector<pid_t> UserOffice::Processes() const {
@@ -157,6 +160,12 @@ std::vector<SeenCell> UserOffice::Cells(const std::string& name, const std::stri
 std::vector<SeenCell> UserOffice::Cells_Of_File(const std::string& path,
                                                 const std::string& range) const {
   return To_Cells(Probe("cells-of-file '" + path + "' " + range));
+}
+
+double SeenCell::Number() const {
+  double number = 0;
+  std::from_chars(shown.data(), shown.data() + shown.size(), number);
+  return number;
 }
 
 void PrintTo(const SeenCell& cell, std::ostream* out) {

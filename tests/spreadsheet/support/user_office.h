@@ -14,6 +14,8 @@ struct SeenCell {
   std::string shown;  ///< the text, or the number
 
   bool operator==(const SeenCell&) const = default;
+  /// The onlooker prints numbers with a point.
+  double Number() const;
 };
 
 /// LibreOffice as the user of the home folder has it, who has used it before. No process of it runs

@@ -27,7 +27,7 @@ TEST(DewTable, HoldsTheFiguresAsSingles) {
     const DewRow& figures = Dew_Figures()[static_cast<std::size_t>(row - 1)];
     ASSERT_EQ(figures.texts.size(), static_cast<std::size_t>(kFilledColumns));
     EXPECT_EQ(table(row, 1), static_cast<float>(figures.T_amb)) << row;
-    EXPECT_EQ(table(row, 2), std::stof(figures.texts[1])) << row;
+    EXPECT_EQ(table(row, 2), Figure<float>(figures.texts[1])) << row;
     for (int column = 0; column < kHumidities; ++column) {
       EXPECT_EQ(table(row, column + 3),
                 static_cast<float>(figures.below[static_cast<std::size_t>(column)]))

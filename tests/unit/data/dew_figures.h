@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <charconv>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -44,6 +45,14 @@ struct DewRow {
   std::vector<std::string> texts;  ///< all sixteen columns as they are written
 };
 
+/// The number of a word, whatever the locale of the process.
+template <class Number>
+Number Figure(const std::string& word) {
+  Number number = 0;
+  std::from_chars(word.data(), word.data() + word.size(), number);
+  return number;
+}
+
 inline std::vector<DewRow> Read_Dew_Figures() {
   std::vector<DewRow> rows;
   std::istringstream lines(kDewFigures);
@@ -53,10 +62,10 @@ inline std::vector<DewRow> Read_Dew_Figures() {
     DewRow row;
     std::istringstream words(line);
     for (std::string word; words >> word;) row.texts.push_back(word);
-    row.T_amb = std::stod(row.texts.at(0));
+    row.T_amb = Figure<double>(row.texts.at(0));
     for (std::size_t column = 0; column < kHumidities; ++column) {
       const std::string& text = row.texts.at(column + 2);
-      row.below[column] = text == "-" ? 0 : std::stod(text);
+      row.below[column] = text == "-" ? 0 : Figure<double>(text);
     }
     rows.push_back(row);
   }

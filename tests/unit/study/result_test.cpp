@@ -50,7 +50,7 @@ TEST(HeatLossOfAnObject, OfAColdMediumKeepsItsSavings) {
 TEST(HeatLossOfAnObject, CountsDecimalsWhereTheScreenRounds) {
   Object object = Steel_Pipe();
   object.medium_C = 80.4;
-  EXPECT_GT(std::stod(Texts(object)[3]), 53.6);
+  EXPECT_GT(Val(Texts(object)[3]), 53.6);
   object = Steel_Pipe();
   object.length_m = 2.5;
   EXPECT_EQ(Texts(object)[9], "65.85");  // 36.582 W for 720 hours and 2.5 m
