@@ -14,7 +14,7 @@ class UnreadableFile {
   UnreadableFile& operator=(const UnreadableFile&) = delete;
 
  private:
-  void* handle_ = nullptr;
+  [[maybe_unused]] void* handle_ = nullptr;  // a pipe needs none
 };
 
 }  // namespace norvane
