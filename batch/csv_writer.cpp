@@ -14,8 +14,8 @@ class CsvWriter : public RowWriter {
   explicit CsvWriter(const Job& job) : job_(job), columns_(job.Results().Columns()) {}
 
   void Header(std::string& out) const override {
-    for (const std::size_t i : job_.Kept()) Text(job_.Names()[i], out);
-    for (const ResultColumn& column : columns_) Text(column.name, out);
+    for (const std::size_t i : job_.Kept()) Name(job_.Names()[i], out);
+    for (const ResultColumn& column : columns_) Name(column.name, out);
     out += kRemark;
     out += '\n';
   }
@@ -34,6 +34,11 @@ class CsvWriter : public RowWriter {
 
  private:
   char Separator() const { return job_.Dialect().separator; }
+
+  void Name(std::string_view name, std::string& out) const {
+    Append_Name(out, name);
+    out += Separator();
+  }
 
   void Text(std::string_view text, std::string& out) const {
     Append_Field(out, text, Separator());

@@ -13,6 +13,18 @@ namespace {
 
 constexpr char kQuote = '"';
 
+/// What may stand between the columns, the usual one first.
+constexpr std::string_view kSeparators = ",;\t";
+
+void Append_Quoted(std::string& row, std::string_view text) {
+  row += kQuote;
+  for (const char c : text) {
+    row += c;
+    if (c == kQuote) row += kQuote;
+  }
+  row += kQuote;
+}
+
 /// Behind the quote that closes the field at `first`; npos when none does.
 std::size_t Behind_Quoted(std::string_view bytes, std::size_t first) {
   std::size_t at = first + 1;
@@ -69,19 +81,18 @@ bool Read_Any(std::string_view text, char decimal, double& number) {
 }  // namespace
 
 CsvDialect Dialect_Of_Header(std::string_view header) {
-  std::size_t commas = 0;
-  std::size_t semicolons = 0;
-  std::size_t tabs = 0;
-  bool quoted = false;
-  for (const char c : header) {
-    if (c == kQuote) quoted = !quoted;
-    if (quoted) continue;
-    commas += c == ',' ? 1 : 0;
-    semicolons += c == ';' ? 1 : 0;
-    tabs += c == '\t' ? 1 : 0;
+  std::array<std::size_t, kSeparators.size()> counts{};
+  bool begins_field = true;
+  for (std::size_t at = 0; at < header.size(); ++at) {
+    if (begins_field && header[at] == kQuote)
+      at = std::min(Behind_Quoted(header, at), header.size());
+    const std::size_t sign = at < header.size() ? kSeparators.find(header[at]) : kSeparators.npos;
+    begins_field = sign != kSeparators.npos;
+    if (begins_field) ++counts[sign];
   }
-  if (semicolons > commas && semicolons > tabs) return {';', ','};
-  return {tabs > commas ? '\t' : ',', '.'};
+  const auto most = std::max_element(counts.begin(), counts.end());
+  const char separator = kSeparators[static_cast<std::size_t>(most - counts.begin())];
+  return {separator, separator == ';' ? ',' : '.'};
 }
 
 std::size_t Length_Of_Row(std::string_view bytes, char separator) {
@@ -137,14 +148,17 @@ void Append_Field(std::string& row, std::string_view text, char separator) {
                      text.find(separator) == std::string_view::npos;
   if (plain) {
     row += text;
-    return;
+  } else {
+    Append_Quoted(row, text);
   }
-  row += kQuote;
-  for (const char c : text) {
-    row += c;
-    if (c == kQuote) row += kQuote;
+}
+
+void Append_Name(std::string& header, std::string_view name) {
+  if (name.find_first_of("\"\r\n,;\t") == std::string_view::npos) {
+    header += name;
+  } else {
+    Append_Quoted(header, name);
   }
-  row += kQuote;
 }
 
 bool Read_Number(std::string_view field, char decimal, double& number) {

@@ -45,6 +45,12 @@ std::string Field_Text(std::string_view field);
 /// @param separator between fields
 void Append_Field(std::string& row, std::string_view text, char separator);
 
+/// The same for a name of the header: in quotes too where it has another sign that could stand
+/// between columns, so that the header tells its own.
+/// @param header what the name is added to
+/// @param name of the column
+void Append_Name(std::string& header, std::string_view name);
+
 /// Reads a field, in quotes or not, that is a number and nothing else: blanks around it, a sign,
 /// digits with the decimal sign, an exponent. False for anything else, `number` as it was then.
 /// @param field as it stands, with its quotes

@@ -47,6 +47,14 @@ std::vector<std::string> Texts(std::string_view row, char separator) {
   return texts;
 }
 
+void Append_Header(std::string& bytes, const std::vector<std::string>& names, char separator) {
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (i > 0) bytes += separator;
+    Append_Name(bytes, names[i]);
+  }
+  bytes += "\r\n";
+}
+
 void Append_Row(std::string& bytes, const std::vector<std::string>& texts, char separator) {
   const std::size_t first = bytes.size();
   for (std::size_t i = 0; i < texts.size(); ++i) {
@@ -101,7 +109,7 @@ std::variant<ScheduleFile, ScheduleFileProblem> Read_Schedule(std::string_view b
 
 std::string Write_Schedule(const ScheduleFile& schedule) {
   std::string bytes;
-  Append_Row(bytes, schedule.header, schedule.dialect.separator);
+  Append_Header(bytes, schedule.header, schedule.dialect.separator);
   for (const auto& row : schedule.rows) Append_Row(bytes, row, schedule.dialect.separator);
   return bytes;
 }

@@ -71,6 +71,12 @@ TEST(CsvField, IsQuotedWhereItNeedsIt) {
   EXPECT_EQ(appended("a\nb"), "\"a\nb\"");
 }
 
+TEST(CsvName, IsQuotedWhereItCouldBeTakenForTwo) {
+  std::string header;
+  for (const char* name : {"kind", "a;b", "a,b", "a\tb", "a\"b"}) Append_Name(header, name);
+  EXPECT_EQ(header, "kind\"a;b\"\"a,b\"\"a\tb\"\"a\"\"b\"");
+}
+
 TEST(CsvDialect, FollowsTheSignsBetweenTheNames) {
   EXPECT_EQ(Dialect_Of_Header("kind,medium_C").separator, ',');
   EXPECT_EQ(Dialect_Of_Header("kind,medium_C").decimal, '.');
@@ -78,6 +84,7 @@ TEST(CsvDialect, FollowsTheSignsBetweenTheNames) {
   EXPECT_EQ(Dialect_Of_Header("kind;medium_C").decimal, ',');
   EXPECT_EQ(Dialect_Of_Header("kind\tmedium_C").separator, '\t');
   EXPECT_EQ(Dialect_Of_Header("\"a;b;c\",kind").separator, ',');
+  EXPECT_EQ(Dialect_Of_Header("2\" pipe,a;\"b,c\";d").separator, ';');
 }
 
 double Number(std::string_view field, char decimal = '.') {
