@@ -9,12 +9,14 @@ cd "$(dirname "$0")"
 minutes=${1:-10}
 
 . packaging/install_packages.sh
-install_packages "to build the fuzzers" clang libclang-rt-dev llvm cmake ninja-build ccache
+install_packages "to build the fuzzers" clang libclang-rt-dev llvm cmake ninja-build ccache \
+  libxlsxwriter-dev libminizip-dev libexpat1-dev locales
 cmake --preset fuzz -DNORVANE_WERROR=ON >/dev/null
 cmake --build --preset fuzz
 
-fuzzers="address_files export language_files numbers schedule_file schedule_rows settings_file
-  user_events"
+fuzzers="address_files cell_ranges code_pages export language_files numbers schedule_file schedule_rows script_lines
+  settings_file user_events workbook"
+export LOCPATH="$PWD/build/fuzz/locales"
 finds=build/fuzz-finds
 mkdir -p "$finds"
 # shellcheck disable=SC2086
