@@ -31,6 +31,10 @@ echo "== sanitize"
 cmake --preset sanitize -DNORVANE_WERROR=ON -DNORVANE_DESKTOP=OFF >/dev/null
 cmake --build --preset sanitize
 
+echo "== tsan"
+cmake --preset tsan -DNORVANE_WERROR=ON >/dev/null
+cmake --build --preset tsan --target spreadsheet_tests norvane-batch
+
 echo "== fuzz"
 cmake --preset fuzz -DNORVANE_WERROR=ON >/dev/null
 cmake --build --preset fuzz
@@ -47,6 +51,8 @@ done
 tests/check_sources build/clang
 ctest --test-dir build/clang --output-on-failure -L quick -j 2
 ctest --test-dir build/sanitize --output-on-failure -L quick -j 2
+build/tsan/tests/spreadsheet/spreadsheet_tests --gtest_brief=1
+ctest --test-dir build/tsan --output-on-failure -L '^batch$'
 ctest --test-dir build/fuzz --output-on-failure -j 2
 tests/windows/run
 ctest --test-dir build/release --output-on-failure -j 2
