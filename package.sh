@@ -6,7 +6,8 @@ cd "$(dirname "$0")"
 
 . packaging/install_packages.sh
 install_packages "to build and pack Norvane" \
-  g++ cmake ninja-build binutils qt6-base-dev libqt6svg6 libxlsxwriter-dev libreoffice-dev \
+  g++ cmake ninja-build binutils qt6-base-dev libqt6svg6 libxlsxwriter-dev libminizip-dev \
+  libexpat1-dev libreoffice-dev \
   libreoffice-calc fonts-liberation
 
 build=build/package

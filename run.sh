@@ -9,7 +9,7 @@ cd "$(dirname "$0")"
 office=
 command -v soffice >/dev/null && office=libreoffice-dev
 install_packages "to build and run Norvane" \
-  g++ cmake ninja-build qt6-base-dev libxlsxwriter-dev libminizip-dev fonts-liberation $office
+  g++ cmake ninja-build qt6-base-dev libxlsxwriter-dev libminizip-dev libexpat1-dev fonts-liberation $office
 
 mkdir -p build
 cmake -S . -B build/run -G Ninja -DCMAKE_BUILD_TYPE=Release -DNORVANE_TESTS=OFF \

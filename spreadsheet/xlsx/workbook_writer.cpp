@@ -7,6 +7,7 @@
 
 #include "c_locale.h"
 #include "spreadsheet/workbook.h"
+#include "whole_workbook.h"
 
 namespace norvane {
 namespace {
@@ -53,7 +54,14 @@ class WorkbookWriter {
     return workbook_close(std::exchange(file_, nullptr)) == LXW_NO_ERROR;
   }
 
+  /// The cells that the library has taken.
+  std::size_t Cells() const { return cells_; }
+
  private:
+  void Count(lxw_error error) {
+    if (error == LXW_NO_ERROR) ++cells_;
+  }
+
   void Write_Cell(int row, int column, const CellValue& value) {
     const auto r = static_cast<lxw_row_t>(row);
     const auto c = static_cast<lxw_col_t>(column);
@@ -61,10 +69,10 @@ class WorkbookWriter {
                                   [&](const CellRange& range) { return range.Holds(column, row); });
     lxw_format* format = bold ? bold_ : nullptr;
     if (const auto* text = std::get_if<std::string>(&value)) {
-      worksheet_write_string(sheet_, r, c, text->c_str(), format);
+      Count(worksheet_write_string(sheet_, r, c, text->c_str(), format));
       Widen(column, Letters(*text));
     } else if (const double number = std::get<double>(value); std::isfinite(number)) {
-      worksheet_write_number(sheet_, r, c, number, format);
+      Count(worksheet_write_number(sheet_, r, c, number, format));
     }
   }
 
@@ -97,6 +105,7 @@ class WorkbookWriter {
   lxw_workbook* file_;
   lxw_worksheet* sheet_ = nullptr;
   lxw_format* bold_ = nullptr;
+  std::size_t cells_ = 0;
   std::vector<double> widths_;  // by column
 };
 
@@ -113,5 +122,6 @@ extern "C" NORVANE_EXPORTED bool norvane_write_workbook_1(const norvane::Workboo
                                                           const std::filesystem::path& file) {
   // The library prints numbers by the locale, and the format knows none.
   const norvane::CLocale plain;
-  return norvane::WorkbookWriter(book, file).Write();
+  norvane::WorkbookWriter writer(book, file);
+  return writer.Write() && norvane::Is_Whole_Workbook(file, writer.Cells());
 }
