@@ -8,12 +8,16 @@ const char* RuntimeError::what() const noexcept {
       return "Invalid procedure call or argument";
     case kOverflow:
       return "Overflow";
+    case kOutOfMemory:
+      return "Out of memory";
     case kSubscriptOutOfRange:
       return "Subscript out of range";
     case kDivisionByZero:
       return "Division by zero";
     case kTypeMismatch:
       return "Type mismatch";
+    case kInternalError:
+      return "Internal error";
     case kCannotCreateObject:
       return "ActiveX component can't create object";
   }

@@ -11,9 +11,11 @@ class RuntimeError : public std::exception {
   enum Number {
     kInvalidProcedureCall = 5,
     kOverflow = 6,
+    kOutOfMemory = 7,
     kSubscriptOutOfRange = 9,
     kDivisionByZero = 11,
     kTypeMismatch = 13,
+    kInternalError = 51,
     kCannotCreateObject = 429,
   };
 

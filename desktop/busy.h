@@ -16,6 +16,8 @@ class Busy : public SpreadsheetWaiting {
   void Wait_A_Moment() override;
   void Progress(int done, int total) override;
 
+  bool Is_Painting() const { return painting_; }
+
   /// The waiting is over.
   void End();
 

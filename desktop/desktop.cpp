@@ -61,6 +61,8 @@ Desktop::Desktop(const std::filesystem::path& folder, const SpreadsheetMaker& ma
   // each part, size, state and palette. To paint a button anew takes some hundredths of a
   // millisecond.
   QPixmapCache::setCacheLimit(0);
+  session_end_.setSingleShot(true);
+  session_end_.callOnTimeout([this] { Close_One_More_Window(); });
   // Qt has given C functions the user's locale. The program asks Qt for the decimal sign; what a
   // library reads and writes by C functions is no text for the user, and has a point.
   std::setlocale(LC_NUMERIC, "C");
@@ -154,6 +156,38 @@ void Desktop::Answer(const UserEvent& event) {
 void Desktop::Tick(TickTimer& timer) {
   if (program_.Ended()) return;
   Call([&] { program_.Tick(timer); });
+}
+
+void Desktop::Fail() {
+  if (program_.Ended()) return;  // while its last message is still to be read
+  Call([this] { program_.Run([] { throw; }); });
+}
+
+void Desktop::Close_Front_Window() {
+  QWidget* box = QApplication::activeModalWidget();
+  QWidget* front = qobject_cast<QMessageBox*>(box) != nullptr ? box : Front_Window();
+  if (front != nullptr) front->close();
+}
+
+void Desktop::End_Session() {
+  constexpr int kAttempts = 8;
+  windows_left_ = kAttempts;
+  Close_One_More_Window();
+}
+
+void Desktop::Close_One_More_Window() {
+  constexpr int kMoment = 20;  // milliseconds
+  if (program_.Ended() && QApplication::activeModalWidget() == nullptr) return;
+  // Asked for first: a window that is closed may open a box, and return when that is closed.
+  session_end_.start(kMoment);
+  if (busy_.Is_Painting()) return;
+  if (windows_left_-- > 0) {
+    Close_Front_Window();
+  } else if (!program_.Ended()) {
+    Call([this] { program_.Run([this] { program_.State().desk.Quit(); }); });
+  } else {
+    After_Program_Call();
+  }
 }
 
 void Desktop::Call(const std::function<void()>& program_call) {

@@ -3,6 +3,7 @@
 #include <QEventLoop>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -52,6 +53,11 @@ class Desktop : public Platform, public Display {
   /// Carries out what the user did and shows what came of it.
   void Answer(const UserEvent& event);
   void Tick(TickTimer& timer);
+  /// Ends the program with the message of the exception that is being handled.
+  void Fail();
+  /// Closes what is in front, as the user would, one after the other, until the program has ended.
+  /// What can't be closed, such as the splash, is left behind after some attempts.
+  void End_Session();
   /// Brings all windows up to date with their forms.
   void Show_Changes();
 
@@ -73,6 +79,8 @@ class Desktop : public Platform, public Display {
   /// A window that was just shown can paint only when the display server has exposed it.
   void Wait_For_Exposure();
   QWidget* Front_Window() const;
+  void Close_Front_Window();
+  void Close_One_More_Window();
   void Decode_Anew_At_Need();
 
   DiskFiles files_;
@@ -83,6 +91,8 @@ class Desktop : public Platform, public Display {
   int calls_ = 0;
   int shown_charset_ = 0;
   int yields_ = 0;  ///< calls of Let_Events_Run under way
+  QTimer session_end_;
+  int windows_left_ = 0;  ///< to be closed at the end of the session
   Program program_;
 };
 

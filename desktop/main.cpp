@@ -1,15 +1,16 @@
-#include <QApplication>
 #include <QFont>
 
 #include "desktop/app_icon.h"
+#include "desktop/application.h"
 #include "desktop/desktop.h"
 #include "desktop/own_fonts.h"
+#include "desktop/session_end.h"
 #include "frame/version.h"
 #include "host/failed_writes.h"
 
 int main(int argc, char** argv) {
   norvane::Let_Writes_Fail();
-  QApplication application(argc, argv);
+  norvane::Application application(argc, argv);
   QApplication::setApplicationName(norvane::kTitle);
   QApplication::setDesktopFileName("norvane");
   norvane::Use_Own_Fonts_At_Need(QCoreApplication::applicationDirPath());
@@ -17,6 +18,8 @@ int main(int argc, char** argv) {
   QFont::insertSubstitutions("Arial", {"Liberation Sans", "Arimo", "Nimbus Sans", "Helvetica"});
   QApplication::setQuitOnLastWindowClosed(false);
   norvane::Desktop desktop(QCoreApplication::applicationDirPath().toStdString());
+  application.Set_Failure([&desktop] { desktop.Fail(); });
+  const norvane::SessionEnd session_end([&desktop] { desktop.End_Session(); });
   desktop.Start();
   if (desktop.program().Ended()) return desktop.program().Failed() ? 3 : 0;
   // Drawn when the splash is on the screen already: no window needs it before.

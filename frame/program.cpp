@@ -1,11 +1,24 @@
 #include "frame/program.h"
 
+#include <exception>
+#include <new>
+
 #include "data/runtime_error.h"
 #include "frame/about_form.h"
 #include "screen/model/carry_out.h"
 #include "screen/warmt.h"
 
 namespace norvane {
+namespace {
+
+constexpr std::size_t kMemoryForTheEnd = 8U << 20;
+
+}  // namespace
+
+// It isn't touched, so that it costs addresses alone.
+Program::Program(Platform& platform)
+    : module1_(platform),
+      memory_for_the_end_(std::make_unique_for_overwrite<char[]>(kMemoryForTheEnd)) {}
 
 void Program::Main() {
   Run([this] {
@@ -42,11 +55,20 @@ void Program::Run(const std::function<void()>& procedure) {
   } catch (const ProgramEnd&) {
     // Ended in order.
   } catch (const RuntimeError& error) {
-    module1_.desk.End();
-    failed_ = true;
-    module1_.platform.display().Runtime_Error(error.number(), error.what());
+    Fail(error);
+  } catch (const std::bad_alloc&) {
+    memory_for_the_end_.reset();
+    Fail(RuntimeError(RuntimeError::kOutOfMemory));
+  } catch (const std::exception&) {
+    Fail(RuntimeError(RuntimeError::kInternalError));
   }
   if (--depth_ == 0) module1_.desk.Forget_Unloaded();
+}
+
+void Program::Fail(const RuntimeError& error) {
+  module1_.desk.End();
+  failed_ = true;
+  module1_.platform.display().Runtime_Error(error.number(), error.what());
 }
 
 }  // namespace norvane

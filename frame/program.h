@@ -1,9 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
+#include "data/runtime_error.h"
 #include "frame/shared_state.h"
 #include "screen/model/user_event.h"
 
@@ -13,7 +15,7 @@ namespace norvane {
 /// live in one process.
 class Program {
  public:
-  explicit Program(Platform& platform) : module1_(platform) {}
+  explicit Program(Platform& platform);
 
   /// Starts the program: shows the splash screen and loads the main screen behind it. From here
   /// on everything is an answer to an event.
@@ -27,7 +29,8 @@ class Program {
   /// carried out.
   void Tick(TickTimer& timer);
 
-  /// Runs a procedure that no event reaches in the way an event is carried out.
+  /// Runs a procedure that no event reaches in the way an event is carried out. What it throws ends
+  /// the program with a message: a runtime error's own, or 7 and 51 for what C++ throws.
   void Run(const std::function<void()>& procedure);
 
   bool Ended() const { return module1_.desk.Ended(); }
@@ -38,7 +41,11 @@ class Program {
   const Module1& State() const { return module1_; }
 
  private:
+  void Fail(const RuntimeError& error);
+
   Module1 module1_;
+  /// Given back when there is no more, for the message and what the user does with it.
+  std::unique_ptr<char[]> memory_for_the_end_;
   int depth_ = 0;
   bool failed_ = false;
 };

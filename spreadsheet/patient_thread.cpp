@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <condition_variable>
 #include <mutex>
+#include <system_error>
 #include <thread>
 
 #include "platform/spreadsheet.h"
@@ -41,7 +42,11 @@ struct PatientThread::Shared {
 
 PatientThread::PatientThread(SpreadsheetWaiting& waiting, std::chrono::milliseconds patience)
     : waiting_(waiting), patience_(patience), shared_(std::make_shared<Shared>()) {
-  shared_->thread = std::thread([shared = shared_] { Shared::Work(shared); });
+  try {
+    shared_->thread = std::thread([shared = shared_] { Shared::Work(shared); });
+  } catch (const std::system_error&) {
+    throw SpreadsheetFailure();  // the system has no more threads to give
+  }
 }
 
 PatientThread::~PatientThread() {

@@ -15,6 +15,7 @@ namespace norvane {
 /// that it touches.
 class PatientThread {
  public:
+  /// Throws `SpreadsheetFailure` when there can't be another thread.
   PatientThread(SpreadsheetWaiting& waiting, std::chrono::milliseconds patience);
   ~PatientThread();
   PatientThread(const PatientThread&) = delete;

@@ -7,7 +7,9 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <future>
 #include <sstream>
+#include <system_error>
 #include <thread>
 
 #include "host/failed_writes.h"
@@ -37,6 +39,7 @@ constexpr int kKilled = 128;  // and the signal's number, as shells say it
 }
 
 int Wait_For(pid_t process) {
+  if (process < 0) return kNotStarted;
   int status = 0;
   while (waitpid(process, &status, 0) < 0) {
     if (errno != EINTR) return kNotStarted;
@@ -55,14 +58,20 @@ std::shared_ptr<const StartedProgram> Start_Program(const fs::path& program,
   }
   pointers.push_back(nullptr);
   const auto started = std::make_shared<StartedProgram>();
-  const pid_t process = fork();
-  if (process == 0) Become(path.c_str(), pointers.data());
-  if (process < 0) {
+  std::promise<pid_t> process;
+  try {
+    // Somebody has to wait for it, or it would stay in the system's table when it has ended. Who
+    // can't be had doesn't start it either.
+    std::thread([started, number = process.get_future()]() mutable {
+      started->Set_Exit_Status(Wait_For(number.get()));
+    }).detach();
+  } catch (const std::system_error&) {
     started->Set_Exit_Status(kNotStarted);
     return started;
   }
-  // Somebody has to wait for it, or it would stay in the system's table when it has ended.
-  std::thread([started, process] { started->Set_Exit_Status(Wait_For(process)); }).detach();
+  const pid_t number = fork();
+  if (number == 0) Become(path.c_str(), pointers.data());
+  process.set_value(number);
   return started;
 }
 

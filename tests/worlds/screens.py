@@ -67,10 +67,10 @@ class Screen:
             **{"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL, **options}))
         return self._processes[-1]
 
-    def start(self, folder, stderr=subprocess.DEVNULL, **environment):
+    def start(self, folder, stderr=subprocess.DEVNULL, preexec_fn=None, **environment):
         """The desktop program of a folder."""
         return self._start([folder / "norvane"], {**self.environment, **environment},
-                           stderr=stderr, cwd=folder)
+                           stderr=stderr, cwd=folder, preexec_fn=preexec_fn)
 
     def xdotool(self, *arguments):
         return subprocess.run(["xdotool", *arguments], env=self.environment, timeout=PATIENCE,

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QPalette>
 
+#include "desktop/application.h"
 #include "frame/version.h"
 
 namespace {
@@ -29,7 +29,7 @@ QPalette Dark_Palette() {
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  QApplication application(argc, argv);
+  norvane::Application application(argc, argv);
   QApplication::setApplicationName(norvane::kTitle);
   QApplication::setQuitOnLastWindowClosed(false);
   // A caret that blinks would paint on its own account.

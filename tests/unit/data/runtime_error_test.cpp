@@ -16,6 +16,8 @@ TEST(RuntimeError, SpeaksTheClassicWordsOfItsNumber) {
   EXPECT_STREQ(RuntimeError(RuntimeError::kSubscriptOutOfRange).what(), "Subscript out of range");
   EXPECT_STREQ(RuntimeError(RuntimeError::kDivisionByZero).what(), "Division by zero");
   EXPECT_STREQ(RuntimeError(RuntimeError::kTypeMismatch).what(), "Type mismatch");
+  EXPECT_STREQ(RuntimeError(RuntimeError::kOutOfMemory).what(), "Out of memory");
+  EXPECT_STREQ(RuntimeError(RuntimeError::kInternalError).what(), "Internal error");
 }
 
 }  // namespace
