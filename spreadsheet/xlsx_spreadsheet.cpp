@@ -5,9 +5,9 @@
 #include <memory>
 #include <utility>
 
-#include "host/random_digits.h"
 #include "spreadsheet/patient_thread.h"
 #include "spreadsheet/plug_in.h"
+#include "spreadsheet/workbook_folder.h"
 
 namespace norvane {
 namespace {
@@ -16,12 +16,9 @@ namespace fs = std::filesystem;
 
 constexpr std::chrono::seconds kPatience{60};
 
-/// A new file's path in a new folder that is the user's alone.
+/// A new file's path in a folder of its own.
 fs::path New_File(const fs::path& title) {
-  const fs::path folder = fs::temp_directory_path() / ("norvane-" + Random_Digits());
-  if (!fs::create_directory(folder)) throw SpreadsheetFailure();
-  fs::permissions(folder, fs::perms::owner_all);
-  fs::path file = folder / title;
+  fs::path file = New_Workbook_Folder() / title;
   file += ".xlsx";
   return file;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "c_locale.h"
+#include "cell_text.h"
 #include "spreadsheet/workbook.h"
 #include "whole_workbook.h"
 
@@ -69,7 +70,7 @@ class WorkbookWriter {
                                   [&](const CellRange& range) { return range.Holds(column, row); });
     lxw_format* format = bold ? bold_ : nullptr;
     if (const auto* text = std::get_if<std::string>(&value)) {
-      Count(worksheet_write_string(sheet_, r, c, text->c_str(), format));
+      Count(worksheet_write_string(sheet_, r, c, Cell_Text(*text).c_str(), format));
       Widen(column, Letters(*text));
     } else if (const double number = std::get<double>(value); std::isfinite(number)) {
       Count(worksheet_write_number(sheet_, r, c, number, format));
