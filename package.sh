@@ -8,13 +8,13 @@ cd "$(dirname "$0")"
 install_packages "to build and pack Norvane" \
   g++ cmake ninja-build binutils qt6-base-dev libqt6svg6 libxlsxwriter-dev libminizip-dev \
   libexpat1-dev libreoffice-dev \
-  libreoffice-calc fonts-liberation
+  libreoffice-calc fonts-liberation python3
 
 build=build/package
 # An old-style search path holds for the libraries of the libraries and for plugins too, so that none
 # of them has to be changed.
 cmake -S . -B $build -G Ninja -DCMAKE_BUILD_TYPE=Release -DNORVANE_TESTS=OFF \
-  -DNORVANE_OFFICE=ON -DNORVANE_XLSX=ON -DNORVANE_FOLDER="$PWD/$build/norvane" \
+  -DNORVANE_HARDENED=ON -DNORVANE_OFFICE=ON -DNORVANE_XLSX=ON -DNORVANE_FOLDER="$PWD/$build/norvane" \
   -DCMAKE_BUILD_RPATH='$ORIGIN/lib' -DCMAKE_EXE_LINKER_FLAGS=-Wl,--disable-new-dtags >$build.log 2>&1 ||
   { cat $build.log; exit 1; }
 cmake --build $build
@@ -65,6 +65,14 @@ package_of() {
   real=$(readlink -f "$1")
   dpkg-query -S "$real" 2>/dev/null || dpkg-query -S "${real#/usr}"
 }
+{
+  cat $build/libraries
+  find "$plugins" -name '*.so'
+  ls /usr/share/fonts/truetype/liberation/LiberationSans-*.ttf
+} | while read -r file; do
+  package=$(package_of "$file" | sed 's/:.*//')
+  echo "$(basename "$file") $package $(dpkg-query -W -f '${Version} ${Architecture}' "$package")"
+done >$build/origins
 sed -e "s/@VERSION@/$version/" -e "s/@MACHINE@/$machine/" packaging/portable/README.txt \
   >"$folder/README.txt"
 {
@@ -78,6 +86,9 @@ sed -e "s/@VERSION@/$version/" -e "s/@MACHINE@/$machine/" packaging/portable/REA
   done >>"$folder/README.txt"
 cp /usr/share/common-licenses/LGPL-3 /usr/share/common-licenses/LGPL-2.1 \
   /usr/share/common-licenses/GPL-3 "$folder/licences"
+
+packaging/make_sbom.py "$folder" "$version" <$build/origins
+tests/packaging/look_at_folder "$folder"
 
 tar --create --directory $build --sort=name --owner=0 --group=0 --numeric-owner --mode=u+w,go=rX,a+rX "$name" |
   gzip -9n >"build/$name.tar.gz"
