@@ -2,10 +2,27 @@
 
 #include <utility>
 
+#include "spreadsheet/unreachable.h"
+
 namespace norvane {
 
+template <class Operation>
+auto ChosenSpreadsheet::Ask(const Operation& operation) {
+  while (true) {
+    Spreadsheet& chosen = Chosen();
+    try {
+      return operation(chosen);
+    } catch (const SpreadsheetUnreachable&) {
+      chosen.Release();
+      chosen_ = Choose();
+      if (chosen_ == nullptr) throw;
+    }
+  }
+}
+
 Spreadsheet* ChosenSpreadsheet::Choose() {
-  for (const Candidate& candidate : candidates_) {
+  while (next_ < candidates_.size()) {
+    const Candidate& candidate = candidates_[next_++];
     if (candidate.is_there()) return candidate.spreadsheet.get();
   }
   return nullptr;
@@ -17,13 +34,27 @@ Spreadsheet& ChosenSpreadsheet::Chosen() {
   return *chosen_;
 }
 
+bool ChosenSpreadsheet::GetObject() {
+  return Ask([](Spreadsheet& chosen) { return chosen.GetObject(); });
+}
+
+void ChosenSpreadsheet::CreateObject() {
+  Ask([](Spreadsheet& chosen) { chosen.CreateObject(); });
+}
+
+void ChosenSpreadsheet::Open(const std::string& name, int charset) {
+  Ask([&](Spreadsheet& chosen) { chosen.Open(name, charset); });
+}
+
 void ChosenSpreadsheet::Ask_To_Report() {
-  if (Spreadsheet* spreadsheet = chosen_ != nullptr ? chosen_ : Choose()) {
-    spreadsheet->Ask_To_Report();
-  }
+  if (chosen_ != nullptr) return chosen_->Ask_To_Report();
+  next_ = 0;
+  if (Spreadsheet* spreadsheet = Choose()) spreadsheet->Ask_To_Report();
+  next_ = 0;
 }
 
 void ChosenSpreadsheet::Release() {
+  next_ = 0;
   if (Spreadsheet* spreadsheet = std::exchange(chosen_, nullptr)) spreadsheet->Release();
 }
 

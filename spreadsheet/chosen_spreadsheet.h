@@ -10,7 +10,8 @@
 namespace norvane {
 
 /// The first of several spreadsheet programs that is there. The choice is made at the first
-/// operation and stands until the release. Where none is there, nothing can be done.
+/// operation and stands until the release, unless the program turns out to be unreachable: the
+/// next one is asked instead then. Where none is left, nothing can be done.
 class ChosenSpreadsheet : public Spreadsheet {
  public:
   struct Candidate {
@@ -21,10 +22,10 @@ class ChosenSpreadsheet : public Spreadsheet {
   explicit ChosenSpreadsheet(std::vector<Candidate> candidates)
       : candidates_(std::move(candidates)) {}
 
-  bool GetObject() override { return Chosen().GetObject(); }
-  void CreateObject() override { Chosen().CreateObject(); }
+  bool GetObject() override;
+  void CreateObject() override;
   void Set_Application_Visible() override { Chosen().Set_Application_Visible(); }
-  void Open(const std::string& name, int charset) override { Chosen().Open(name, charset); }
+  void Open(const std::string& name, int charset) override;
   void Set_Book_Visible() override { Chosen().Set_Book_Visible(); }
   void Select(int sheet) override { Chosen().Select(sheet); }
   void ClearContents(const std::string& range) override { Chosen().ClearContents(range); }
@@ -36,11 +37,16 @@ class ChosenSpreadsheet : public Spreadsheet {
   void Release() override;
 
  private:
+  /// Asks for an operation that comes before there is a book.
+  template <class Operation>
+  auto Ask(const Operation& operation);
+  /// The first that is there, from `next_` on.
   Spreadsheet* Choose();
   Spreadsheet& Chosen();
 
   std::vector<Candidate> candidates_;
   Spreadsheet* chosen_ = nullptr;
+  std::size_t next_ = 0;  ///< behind the one that was chosen
 };
 
 }  // namespace norvane

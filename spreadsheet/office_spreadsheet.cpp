@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "host/random_digits.h"
+#include "spreadsheet/unreachable.h"
 
 namespace norvane {
 namespace {
@@ -48,21 +49,36 @@ bool OfficeSpreadsheet::Connect() {
   return reached_;
 }
 
+/// Carries out a step without which there is no office at all.
+template <class Step>
+auto OfficeSpreadsheet::Reach(const Step& step) {
+  try {
+    return step();
+  } catch (const SpreadsheetFailure&) {
+    // Who doesn't answer now may do so when nobody expects it any more.
+    if (program_ != nullptr) program_->End();
+    throw SpreadsheetUnreachable();
+  }
+}
+
 bool OfficeSpreadsheet::Reach_Running() {
-  if (reached_ || (!pipe_.empty() && Connect())) return true;
-  if (!Run([](Office& office) { return office.Runs(); })) return false;
-  Reach_By_Call();
-  return true;
+  return Reach([this] {
+    if (reached_ || (!pipe_.empty() && Connect())) return true;
+    if (!Run([](Office& office) { return office.Runs(); })) return false;
+    Reach_By_Call();
+    return true;
+  });
 }
 
 /// One call serves both: an office that runs is handed the pipe to listen at, and where none runs
 /// the called program becomes it. An office that is just ending may take the call and never answer,
-/// so there is more than one.
+/// so there is more than one; a program that fails, or comes to nothing, isn't called again.
 void OfficeSpreadsheet::Reach_By_Call() {
   if (std::exchange(called_, true)) throw SpreadsheetFailure();
   const auto end = steady_clock::now() + means_.patience;
   for (int i = 0; i < kCalls; ++i) {
     if (Answers_Call(end)) return;
+    if (program_->Exit_Status() != 0) break;
     thread_->Pause(kBetweenCalls);
   }
   throw SpreadsheetFailure();
@@ -70,12 +86,12 @@ void OfficeSpreadsheet::Reach_By_Call() {
 
 bool OfficeSpreadsheet::Answers_Call(steady_clock::time_point end) {
   pipe_ = "norvane-" + Random_Digits();
-  const auto program = means_.call(
+  program_ = means_.call(
       {"--accept=pipe,name=" + pipe_ + ";urp;", "--nodefault", "--norestore", "--nologo"});
   auto given_up = end;
   while (!Connect()) {
     const auto now = steady_clock::now();
-    const auto status = program->Exit_Status();
+    const auto status = program_->Exit_Status();
     if (status.value_or(0) != 0) return false;
     if (status) given_up = std::min(given_up, now + kForHandedOver);
     if (now >= given_up) return false;
@@ -88,7 +104,7 @@ bool OfficeSpreadsheet::GetObject() { return Reach_Running(); }
 
 void OfficeSpreadsheet::CreateObject() {
   if (reached_) return;
-  Reach_By_Call();
+  Reach([this] { Reach_By_Call(); });
   created_ = true;
 }
 
@@ -109,7 +125,13 @@ void OfficeSpreadsheet::Open(const std::string& name, int charset) {
   if (!std::filesystem::is_regular_file(path, error)) throw SpreadsheetFailure();
   if (!Reach_Running()) CreateObject();
   charset_ = charset;
-  Run([path = path.string()](Office& office) { office.Open(path); });
+  try {
+    Run([path = path.string()](Office& office) { office.Open(path); });
+  } catch (const SpreadsheetFailure&) {
+    if (!thread_->Lost()) throw;
+    if (created_) program_->End();
+    throw SpreadsheetUnreachable();
+  }
   book_ = Book::kUnseen;
 }
 
@@ -164,6 +186,7 @@ void OfficeSpreadsheet::Release() {
   reached_ = false;
   called_ = false;
   created_ = false;
+  program_.reset();
   book_ = Book::kNone;
 }
 

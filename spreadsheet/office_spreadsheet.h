@@ -30,7 +30,8 @@ struct OfficeMeans {
 
 /// LibreOffice Calc. Rows that are written one below the other are gathered and sent as blocks,
 /// at the latest before the next operation that looks at cells; a row that can't be written then
-/// is passed over. A single cell is written at once.
+/// is passed over. A single cell is written at once. An office that can't be reached, or comes to
+/// no book, is `SpreadsheetUnreachable`; what was started of it is ended.
 class OfficeSpreadsheet : public Spreadsheet {
  public:
   OfficeSpreadsheet(const std::filesystem::path& program_folder, SpreadsheetWaiting& waiting,
@@ -56,6 +57,8 @@ class OfficeSpreadsheet : public Spreadsheet {
   template <class Step>
   void Run_On_Book(Step step);
 
+  template <class Step>
+  auto Reach(const Step& step);
   bool Reach_Running();
   void Reach_By_Call();
   /// Whether the office is connected after one call, at the latest at `end`.
@@ -73,6 +76,7 @@ class OfficeSpreadsheet : public Spreadsheet {
   // From the first operation to the release:
   std::shared_ptr<Office> office_;
   std::unique_ptr<PatientThread> thread_;
+  std::shared_ptr<const StartedProgram> program_;  ///< what was called last
   bool reached_ = false;
   bool called_ = false;  ///< one call is enough to know whether there is an answer
   bool created_ = false;

@@ -49,6 +49,10 @@ int Wait_For(pid_t process) {
 
 }  // namespace
 
+void StartedProgram::End() const {
+  if (process_ > 0 && !Exit_Status()) kill(-process_, SIGKILL);
+}
+
 std::shared_ptr<const StartedProgram> Start_Program(const fs::path& program,
                                                     const std::vector<std::string>& arguments) {
   const std::string path = program.string();
@@ -71,6 +75,7 @@ std::shared_ptr<const StartedProgram> Start_Program(const fs::path& program,
   }
   const pid_t number = fork();
   if (number == 0) Become(path.c_str(), pointers.data());
+  if (number > 0) started->Set_Process(number);
   process.set_value(number);
   return started;
 }

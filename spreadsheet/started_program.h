@@ -19,9 +19,15 @@ class StartedProgram {
   }
   void Set_Exit_Status(int status) { status_ = status; }
 
+  /// The number of its process, which leads a session of its own.
+  void Set_Process(int process) { process_ = process; }
+  /// Kills it with all that it has started, if it still runs.
+  void End() const;
+
  private:
   static constexpr int kRuns = -1;
   std::atomic<int> status_ = kRuns;
+  std::atomic<int> process_ = 0;
 };
 
 /// Starts a program with arguments and returns at once.

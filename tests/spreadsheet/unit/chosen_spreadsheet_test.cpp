@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "spreadsheet/unreachable.h"
+
 namespace norvane {
 namespace {
 
@@ -19,10 +21,10 @@ class NamedSpreadsheet : public Spreadsheet {
     Log("GetObject");
     return true;
   }
-  void CreateObject() override { Log("CreateObject"); }
+  void CreateObject() override { Reach("CreateObject"); }
   void Set_Application_Visible() override { Log("Application.Visible"); }
   void Open(const std::string& name, int charset) override {
-    Log("Open " + name + " " + std::to_string(charset));
+    Reach("Open " + name + " " + std::to_string(charset));
   }
   void Set_Book_Visible() override { Log("Book.Visible"); }
   void Select(int sheet) override { Log("Select " + std::to_string(sheet)); }
@@ -34,7 +36,15 @@ class NamedSpreadsheet : public Spreadsheet {
   void Ask_To_Report() override { Log("Ask_To_Report"); }
   void Release() override { Log("Release"); }
 
+  std::string unreachable_at;  ///< the operation that doesn't reach it
+
  private:
+  void Reach(const std::string& operation) {
+    Log(operation);
+    if (!unreachable_at.empty() && operation.starts_with(unreachable_at)) {
+      throw SpreadsheetUnreachable();
+    }
+  }
   void Log(const std::string& operation) { log_.push_back(name_ + ": " + operation); }
 
   std::string name_;
@@ -47,8 +57,9 @@ class TheChoice : public testing::Test {
 
   std::vector<ChosenSpreadsheet::Candidate> Candidates() {
     std::vector<ChosenSpreadsheet::Candidate> candidates;
-    candidates.push_back(
-        {[this] { return first_is_there_; }, std::make_unique<NamedSpreadsheet>("first", log_)});
+    auto first = std::make_unique<NamedSpreadsheet>("first", log_);
+    first_ = first.get();
+    candidates.push_back({[this] { return first_is_there_; }, std::move(first)});
     candidates.push_back(
         {[this] { return second_is_there_; }, std::make_unique<NamedSpreadsheet>("second", log_)});
     return candidates;
@@ -57,8 +68,48 @@ class TheChoice : public testing::Test {
   bool first_is_there_ = true;
   bool second_is_there_ = true;
   std::vector<std::string> log_;
+  NamedSpreadsheet* first_ = nullptr;
   ChosenSpreadsheet spreadsheet_;
 };
+
+TEST_F(TheChoice, FallsOnTheNextWhenTheFirstCannotBeReached) {
+  first_->unreachable_at = "CreateObject";
+  spreadsheet_.CreateObject();
+  spreadsheet_.Open("total.xls", 0);
+  spreadsheet_.Release();
+  EXPECT_EQ(log_, (std::vector<std::string>{"first: CreateObject", "first: Release",
+                                            "second: CreateObject", "second: Open total.xls 0",
+                                            "second: Release"}));
+}
+
+TEST_F(TheChoice, FallsOnTheNextWhenTheFirstComesToNoBook) {
+  first_->unreachable_at = "Open";
+  spreadsheet_.CreateObject();
+  spreadsheet_.Open("total.xls", 0);
+  spreadsheet_.Set_Book_Visible();
+  EXPECT_EQ(log_, (std::vector<std::string>{"first: CreateObject", "first: Open total.xls 0",
+                                            "first: Release", "second: Open total.xls 0",
+                                            "second: Book.Visible"}));
+}
+
+TEST_F(TheChoice, BeginsWithTheFirstAgainAtTheNextExport) {
+  first_->unreachable_at = "CreateObject";
+  spreadsheet_.CreateObject();
+  spreadsheet_.Release();
+  first_->unreachable_at.clear();
+  log_.clear();
+  spreadsheet_.CreateObject();
+  EXPECT_EQ(log_, std::vector<std::string>{"first: CreateObject"});
+}
+
+TEST_F(TheChoice, FailsWhenTheLastCannotBeReachedEither) {
+  second_is_there_ = false;
+  first_->unreachable_at = "CreateObject";
+  EXPECT_THROW(spreadsheet_.CreateObject(), SpreadsheetFailure);
+  EXPECT_THROW(spreadsheet_.Open("total.xls", 0), SpreadsheetFailure);
+  spreadsheet_.Release();
+  EXPECT_EQ(log_, (std::vector<std::string>{"first: CreateObject", "first: Release"}));
+}
 
 TEST_F(TheChoice, IsTheFirstThatIsThereAndHandsAllOperationsOn) {
   EXPECT_TRUE(spreadsheet_.GetObject());

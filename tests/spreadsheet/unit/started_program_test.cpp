@@ -6,6 +6,8 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <iterator>
 #include <sstream>
 #include <string>
@@ -23,6 +25,16 @@ int Status_Of(const StartedProgram& program) {
     usleep(10'000);
   }
   return -1;
+}
+
+/// Whether a process has ended, though nobody has asked for its status yet.
+bool Is_Over(pid_t process) {
+  std::ifstream file("/proc/" + std::to_string(process) + "/stat");
+  std::string number;
+  std::string name;
+  std::string state;
+  file >> number >> name >> state;
+  return state == "Z" || state.empty();
 }
 
 TEST(AStartedProgram, TellsItsExitStatus) {
@@ -54,6 +66,21 @@ TEST(AStartedProgram, HasTheSignalsBackThatTheProgramIgnores) {
   EXPECT_EQ(Status_Of(*Start_Program("/bin/sh", {"-c", "kill -PIPE $$"})), 128 + SIGPIPE);
   EXPECT_EQ(Status_Of(*Start_Program("/bin/sh", {"-c", "kill -XFSZ $$"})), 128 + SIGXFSZ);
   Let_Writes_End_The_Process();
+}
+
+TEST(AStartedProgram, EndsWithAllThatItHasStarted) {
+  const TestFolder folder;
+  const auto program =
+      Start_Program("/bin/sh", {"-c", "sleep 100 & echo $! >'" + (folder / "second").string() +
+                                          ".new'; mv '" + (folder / "second").string() + ".new' '" +
+                                          (folder / "second").string() + "'; wait"});
+  for (int i = 0; i < 500 && !std::filesystem::exists(folder / "second"); ++i) usleep(10'000);
+  const pid_t second = std::stoi(folder.Bytes_Of("second"));
+  program->End();
+  EXPECT_EQ(Status_Of(*program), 128 + SIGKILL);
+  // Whoever takes over what is left of it sees it end.
+  for (int i = 0; i < 500 && kill(second, 0) == 0 && !Is_Over(second); ++i) usleep(10'000);
+  EXPECT_TRUE(kill(second, 0) != 0 || Is_Over(second));
 }
 
 TEST(AStartedProgram, DoesNotHoldUpWhoStartsIt) {
