@@ -22,6 +22,7 @@
 #include <com/sun/star/table/XCellRange.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
 
+#include "gate.h"
 #include "local_office.h"
 
 namespace norvane {
@@ -41,6 +42,7 @@ constexpr sal_Int32 kContents = css::sheet::CellFlags::VALUE | css::sheet::CellF
 template <class Step>
 auto Asking(Step step) -> decltype(step()) {
   try {
+    Pass_Gate();
     return step();
   } catch (const css::uno::Exception&) {
     throw SpreadsheetFailure();
@@ -105,6 +107,7 @@ void UnoOffice::Open(const std::string& path) {
     if (!office_.is()) throw SpreadsheetFailure();
     book_ = Load(path, false);
     shown_ = false;
+    Pass_Gate();
     const Reference<css::frame::XStorable> storable(book_, UNO_QUERY_THROW);
     if (!storable->isReadonly()) return;
     // The office refuses to fill what it can't write back, but not a copy without a name.
@@ -131,7 +134,9 @@ void UnoOffice::Close_Unseen() {
 void UnoOffice::Show() {
   Asking([&] {
     const Reference<css::awt::XWindow> window = Controller()->getFrame()->getContainerWindow();
+    Pass_Gate();
     window->setVisible(true);
+    Pass_Gate();
     shown_ = true;
     const Reference<css::awt::XTopWindow> top(window, UNO_QUERY_THROW);
     top->toFront();
@@ -174,6 +179,7 @@ void UnoOffice::Write(const CellBlock& block) {
                           block.first_column + static_cast<int>(block.rows.front().size()) - 1,
                           block.first_row + static_cast<int>(block.rows.size()) - 1};
     const Reference<css::sheet::XCellRangeData> cells(Cells(range), UNO_QUERY_THROW);
+    Pass_Gate();
     cells->setDataArray(To_Sequences(block.rows));
   });
 }

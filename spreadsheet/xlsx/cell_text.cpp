@@ -1,7 +1,6 @@
 #include "cell_text.h"
 
 #include <algorithm>
-#include <cctype>
 #include <string_view>
 
 namespace norvane {
@@ -11,7 +10,9 @@ constexpr std::size_t kLargest = 32767;
 constexpr std::string_view kUnderscore = "_x005F_";
 constexpr std::string_view kCut = "\xE2\x80\xA6";
 
-bool Is_Digit(char letter) { return std::isxdigit(static_cast<unsigned char>(letter)) != 0; }
+bool Is_Digit(char letter) {
+  return std::string_view("0123456789abcdefABCDEF").find(letter) != std::string_view::npos;
+}
 
 /// Whether a text begins like the spelling of an odd letter.
 bool Is_Spelling(std::string_view text) {

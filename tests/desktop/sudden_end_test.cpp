@@ -142,7 +142,7 @@ TEST_F(SessionsEnd, Answers_A_Question_With_No) {
               Click(Screen().picTotal);
               Total& total = *State().forms.total;
               Wait_Until_Active(total);
-              desktop.Dispatch({UserAction::kPickRows, total, &total.grdResult, {}, 1, 1});
+              desktop.Answer({UserAction::kPickRows, total, &total.grdResult, {}, 1, 1});
             }),
             0);
   Expect_Nothing_Left();

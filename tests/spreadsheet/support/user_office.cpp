@@ -115,7 +115,7 @@ void UserOffice::Close_Window(const std::string& title) const {
   EXPECT_EQ(std::system((focus + " && " + tool + "key alt+F4").c_str()), 0);
 }
 
-std::vector<pid_t> UserOffice::Processes() const {
+std::vector<pid_t> UserOffice::Running() {
   std::vector<pid_t> found;
   std::error_code error;
   for (const auto& process : fs::directory_iterator("/proc", error)) {

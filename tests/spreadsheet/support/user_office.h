@@ -32,7 +32,8 @@ class UserOffice {
   /// Closes a window with the keys that the window manager has for it.
   void Close_Window(const std::string& title) const;
   /// Its processes; there is never more than one.
-  std::vector<pid_t> Processes() const;
+  std::vector<pid_t> Processes() const { return Running(); }
+  static std::vector<pid_t> Running();
   /// Ends it like a crash, and waits until it is gone.
   void Kill();
   /// Whether it has no process, at the latest after some seconds.
