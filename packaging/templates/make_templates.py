@@ -13,6 +13,7 @@ import subprocess
 import sys
 import tempfile
 import time
+import uuid
 
 import uno
 from com.sun.star.beans import PropertyValue
@@ -98,6 +99,15 @@ def desktop_of(office, pipe):
     sys.exit("LibreOffice doesn't start")
 
 
+def name_class(workbook):
+    """Writes the class of such workbooks into the file's root, where Windows looks for whose it is."""
+    of_workbooks = uuid.UUID("00020820-0000-0000-c000-000000000046").bytes_le
+    data = bytearray(workbook.read_bytes())
+    root = data.index("Root Entry".encode("utf-16-le")) + 80
+    data[root : root + 16] = of_workbooks
+    workbook.write_bytes(data)
+
+
 def main():
     here = pathlib.Path(__file__).resolve().parent
     folder = pathlib.Path(sys.argv[1]).resolve() if len(sys.argv) > 1 else here
@@ -122,6 +132,8 @@ def main():
             )
             desktop.terminate()
             office.wait(60)
+            for name in ("total.xls", "xls/Empty.xls"):
+                name_class(folder / name)
         finally:
             if office.poll() is None:
                 office.terminate()
