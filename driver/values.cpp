@@ -123,6 +123,7 @@ std::optional<std::string> Form_Value(const Module1& module1, const Form& form,
   if (attribute == "Caption") return Shown(form.Caption(), charset);
   if (attribute == "Tag") return Shown(form.Tag, charset);
   if (attribute == "Visible") return Printed(form.Shown());
+  if (attribute == "Active") return Printed(form.Is_Active());
   if (attribute == "MousePointer") {
     return Printed(static_cast<double>(static_cast<int>(form.MousePointer())));
   }
