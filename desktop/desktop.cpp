@@ -5,6 +5,7 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QFontDatabase>
+#include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPixmapCache>
@@ -46,8 +47,28 @@ QString Shown(const std::string& bytes, int charset) {
   return QString::fromStdString(To_Utf8(bytes, charset));
 }
 
+/// What a screen reader tells of the sign beside a message.
+QString Name_Of(QMessageBox::Icon icon) {
+  switch (icon) {
+    case QMessageBox::Information:
+      return "Information";
+    case QMessageBox::Warning:
+      return "Warning";
+    case QMessageBox::Question:
+      return "Question";
+    case QMessageBox::Critical:
+      return "Error";
+    case QMessageBox::NoIcon:
+      break;
+  }
+  return {};
+}
+
 /// Shows a box, with words alone on its buttons, as on the program's own; the answer.
 int Ask(QMessageBox& box) {
+  if (auto* sign = box.findChild<QLabel*>("qt_msgboxex_icon_label")) {
+    sign->setAccessibleName(Name_Of(box.icon()));
+  }
   box.setTextFormat(Qt::PlainText);
   for (QAbstractButton* button : box.buttons()) button->setIcon({});
   return box.exec();

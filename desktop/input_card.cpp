@@ -104,8 +104,8 @@ void InputCard::Name_Fields() {
     if (index <= warmt_.txtT.UBound()) Tell(*view_.Widget_Of(warmt_.txtT(index)), name, unit);
     Tell(*view_.Widget_Of(warmt_.txtC(index)), name, unit);
     if (index > warmt_.Text2.UBound()) continue;
-    Tell(*view_.Widget_Of(warmt_.Text2(index)),
-         name + ": " + text(warmt_.Text2(index)) + ' ' + text(warmt_.Label8(index)));
+    auto* conversion = dynamic_cast<QLabel*>(view_.Widget_Of(warmt_.Text2(index)));
+    Tell(*conversion, name + ": " + conversion->text() + ' ' + text(warmt_.Label8(index)));
   }
   Tell(*view_.Widget_Of(warmt_.txtmtrs), text(warmt_.Label1(kLengthHeading)));
 }

@@ -53,7 +53,9 @@ void ObjectCard::Name_Fields() {
   const Module1& module1 = view_.desktop().program().State();
   const QString kind = view_.desktop().Text(warmt_.Label0.Caption());
   Tell(*view_.Widget_Of(warmt_.Combo1), kind);
-  Tell(*view_.Widget_Of(warmt_.Picture2), kind);
+  // Which of the twenty pictures it is, as a number: no language has words for them.
+  Tell(*view_.Widget_Of(warmt_.Picture2),
+       QString("%1 %2").arg(kind).arg(warmt_.Picture2.Picture()));
   const QString show_totals = view_.desktop().Text(warmt_.Tooltip_Of(warmt_.cmdToolBar0(0)));
   const QString waiting = QString("%1: %2").arg(show_totals).arg(Count_Saved_Lines(module1));
   Tell(*total_, waiting);
