@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 
 #include "desktop/colours.h"
 #include "desktop/flat_button.h"
@@ -15,6 +16,8 @@ constexpr int kWidth = 44;
 constexpr int kHeight = 34;
 constexpr int kSignSize = 26;
 constexpr qreal kLine = 1.5;
+
+bool focus_handed_on = false;  // to whichever button is the next
 
 }  // namespace
 
@@ -55,8 +58,15 @@ void ToolButton::mouseMoveEvent(QMouseEvent* event) {
   if (rect().contains(event->position().toPoint())) emit Moved_Over();
 }
 
+bool ToolButton::focusNextPrevChild(bool next) {
+  // A button that hides hands on its focus as the key does, but nobody has come by keyboard then.
+  const QScopedValueRollback<bool> handing_on(focus_handed_on, isHidden());
+  return QAbstractButton::focusNextPrevChild(next);
+}
+
 void ToolButton::focusInEvent(QFocusEvent* event) {
   QAbstractButton::focusInEvent(event);
+  if (focus_handed_on) return;
   if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
     emit Focus_Came();
   }
