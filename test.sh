@@ -19,7 +19,7 @@ install_packages "to run all tests of Norvane" \
   clang clang-tidy clang-format doxygen libclang-rt-dev llvm ccache xvfb openbox \
   libreoffice-calc libreoffice-dev libxlsxwriter-dev libminizip-dev libexpat1-dev locales python3-openpyxl \
   python3-uno xdotool \
-  exfat-fuse exfatprogs at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi libxres-dev git \
+  exfat-fuse exfatprogs at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi python3-xlib libxres-dev git \
   python3 parallel groff pkg-config
 
 for preset in release clang; do
@@ -43,7 +43,7 @@ echo "== windows"
 tests/windows/build
 
 # CMake leaves out the tests of what it doesn't find.
-for label in quick batch library desktop accessibility office faults soak worlds; do
+for label in quick batch library desktop accessibility mirror office faults soak worlds; do
   ctest --test-dir build/release -N -L "^$label\$" | grep -q "Test *#" ||
     { echo "There are no tests of $label" >&2; exit 1; }
 done

@@ -1,0 +1,211 @@
+"""One session: the real window and the model, played side by side."""
+
+import os
+import shutil
+import subprocess
+import tempfile
+import time
+
+import accessible
+from comparison import TWIPS, Seen, Wanted, differences
+from model import Model
+from screen import NoAnswer
+from windows import UnknownWindow
+
+PATIENCE = 20  # seconds, for what a busy machine needs
+ICONS = {"none": [], "information": ["Information"], "exclamation": ["Warning"],
+         "question": ["Question"]}
+BUTTONS = {"ok": ["OK"], "yes/no": ["No", "Yes"]}
+LOCALES = {"point": "en_GB.UTF-8", "comma": "de_DE.UTF-8"}
+
+
+class Difference(Exception):
+    """What the window shows isn't what the model says."""
+
+
+class Session:
+    def __init__(self, bus, screen, driver, folder, seed, locale, settings):
+        self.bus, self.screen, self.seed, self.locale = bus, screen, seed, locale
+        self.script = [f"# session {seed}, locale {locale}"]
+        self.home = tempfile.mkdtemp()
+        self.folders = [os.path.join(self.home, name) for name in ("window", "model")]
+        for copy in self.folders:
+            shutil.copytree(folder, copy)
+            self.prepare(copy, settings)
+        self.model = Model(driver, self.folders[1], locale)
+        environment = dict(os.environ, LC_ALL=LOCALES[locale])
+        self.process = subprocess.Popen([os.path.join(self.folders[0], "norvane")],
+                                        env=environment)
+        self.screen.asked = None
+        self.ended = False
+        self.wanted = self.seen = None
+
+    def prepare(self, copy, settings):
+        # Without the spreadsheet program both are in the same world.
+        for plug_in in os.listdir(copy):
+            if plug_in.endswith(".so"):
+                os.remove(os.path.join(copy, plug_in))
+        path = os.path.join(copy, "norvane.ini")
+        if os.path.exists(path):
+            os.remove(path)
+        if settings:
+            with open(path, "w", encoding="cp1252", newline="") as file:
+                file.write(settings)
+
+    def start(self):
+        self.play("start")
+        end = time.monotonic() + PATIENCE
+        owner = None
+        while owner is None:
+            self.be_patient(end, "the program isn't on the bus")
+            owner = self.bus.program(self.process.pid)
+        self.program = accessible.Program(self.bus, owner)
+        while not self.screen.windows_of(self.process.pid):
+            self.be_patient(end, "no window comes")
+        # The splash stands for three seconds.
+        self.compare()
+
+    def be_patient(self, end, what):
+        if self.process.poll() is not None:
+            raise Difference([f"the program has ended with {self.process.returncode}"])
+        if time.monotonic() > end:
+            raise Difference([what])
+        time.sleep(0.02)
+
+    def play(self, *lines):
+        self.script += lines
+        return self.model.play(*lines)
+
+    def rest(self, rounds=1):
+        """Comes back when the program has dealt with all that was sent."""
+        for _ in range(rounds):
+            if self.process.poll() is None:
+                self.screen.rest(self.process.pid)
+                # The answer comes from the program's own loop, after what came in before.
+                self.program.ask([(accessible.ROOT, accessible.ACCESSIBLE, "GetState", None)])
+
+    def hear(self, told):
+        for line in told:
+            if line.startswith("message "):
+                self.answer(line)
+            elif line.startswith("runtime error "):
+                self.read_error(line)
+            elif line == "ended":
+                self.end()
+            elif not line.startswith("refused"):
+                raise Difference([f"the model prints {line!r}"])
+        if not self.ended:
+            self.rest(rounds=2)
+
+    def box(self):
+        """The message box in front, when it has come."""
+        end = time.monotonic() + PATIENCE
+        while True:
+            self.rest()
+            try:
+                boxes = Seen(self.program).boxes
+            except UnknownWindow:
+                boxes = []
+            if boxes:
+                return boxes[-1]
+            self.be_patient(end, "the message doesn't come")
+
+    def answer(self, line):
+        title, _, rest = line.removeprefix("message ").partition(" | ")
+        text, icon, buttons = rest.rsplit(" | ", 2)
+        buttons, answer = buttons.removesuffix(" (unanswered)").split(" -> ")
+        wanted = {"title": title, "icon": ICONS[icon], "text": text, "buttons": BUTTONS[buttons]}
+        self.press_in_box(wanted, {"ok": "OK", "yes": "Yes", "no": "No"}[answer])
+
+    def read_error(self, line):
+        number, text = line.removeprefix("runtime error ").split(": ", 1)
+        self.press_in_box({"title": "Norvane", "icon": ["Error"], "text":
+                           f"Run-time error '{number}':\\n\\n{text}"}, "OK")
+
+    def press_in_box(self, wanted, button):
+        box = self.box()
+        labels = [node for node in box.below() if node.role == accessible.LABEL]
+        pictures = [node.name for node in box.below()
+                    if node.role not in accessible.BUTTONS and node.name in
+                    {"Information", "Warning", "Question", "Error"}]
+        buttons = {node.name: node for node in box.below() if node.role in accessible.BUTTONS}
+        texts = [node.name for node in labels if node.name and node.name not in pictures]
+        seen = {"title": box.name, "icon": pictures,
+                "text": texts[0].replace("\n", "\\n") if texts else "",
+                "buttons": sorted(buttons)}
+        wanted["text"] = wanted["text"].replace("\\r\\n", "\\n").replace("\\r", "\\n")
+        found = differences(wanted, seen)
+        if found:
+            raise Difference(["message: " + line for line in found])
+        self.move_to(*self.point_in(buttons[button]))
+        self.screen.click()
+        self.screen.display.sync()
+        self.rest()
+
+    def end(self):
+        try:
+            code = self.process.wait(PATIENCE)
+        except subprocess.TimeoutExpired:
+            raise Difference(["the program doesn't end"]) from None
+        self.ended = True
+        if code not in (0, 3):
+            raise Difference([f"the program has ended with {code}"])
+
+    def point_in(self, node):
+        x, y, width, height = self.program.place(node)
+        return x + width // 2, y + height // 2
+
+    def move_to(self, x, y):
+        # A move into a window counts as an arrival alone; the next one is a move in it.
+        self.screen.move_mouse(x - 1, y)
+        self.screen.move_mouse(x, y)
+
+    def tell_sizes(self):
+        """The sizes that the windows have got: those are the user's and his window manager's."""
+        for form in self.wanted.forms:
+            top = self.seen.tops.get(form)
+            if top is None or form == "About":
+                continue
+            width, height = (TWIPS * side for side in self.program.place(top)[2:])
+            raw = self.wanted.raw
+            if (str(width), str(height)) != (raw[f"{form}.Width"], raw[f"{form}.Height"]):
+                self.play(f"resize {form} {width} {height}")
+                return True
+        return False
+
+    def compare(self):
+        """Both look the same, or will when all that is under way has come to rest."""
+        end = time.monotonic() + PATIENCE
+        while not self.ended:
+            self.wanted = Wanted(self.model)
+            try:
+                self.rest(rounds=2)
+                self.seen = Seen(self.program)
+                if self.tell_sizes():
+                    continue
+                found = differences(self.wanted.told(), self.seen.told())
+            except (NoAnswer, UnknownWindow) as problem:
+                found = [f"{type(problem).__name__} {problem}"]
+            if not found:
+                return
+            if time.monotonic() > end:
+                raise Difference(found)
+            if self.process.poll() is not None:
+                raise Difference([f"the program has ended with {self.process.returncode}"])
+            time.sleep(0.02)
+
+    def same_settings(self):
+        written = []
+        for folder in self.folders:
+            path = os.path.join(folder, "norvane.ini")
+            written.append(open(path, "rb").read() if os.path.exists(path) else None)
+        if written[0] != written[1]:
+            raise Difference([f"norvane.ini: the model writes {written[1]!r}, "
+                              f"the program {written[0]!r}"])
+
+    def close(self):
+        if self.process.poll() is None:
+            self.process.kill()
+        self.process.wait()
+        self.model.close()
+        shutil.rmtree(self.home)

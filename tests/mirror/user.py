@@ -1,0 +1,278 @@
+"""A random user of the real window, who tells in a script what he does."""
+
+import random
+
+import accessible
+from windows import FORMS, TOOLS
+
+WORDS = ["80", "13", "0", "1", "10", "21", "5.99", "6", "2.5", "100", "100.5", "-1", "-50", "115",
+         "116", "32767", "1e5", "24", "0,038", "0.038", "0.04", "12,5", "12.5", "abc", "12abc",
+         "-", ".", "914", "0.5", "1 2", "7654321", "-32769", "365", "366"]
+LETTERS = "0123456789.,-+ex%"
+CLICKED = {  # fields that do something when they are clicked, by form
+    "Settings": ["Command1", "Command2"],
+    "Lang": ["OK", "imgExit"],
+    "Address": ["OK", "imgExit"],
+    "Total": [],
+}
+
+
+class OutOfSight(Exception):
+    """It lies beside the screen, where no mouse comes."""
+
+
+class User:
+    def __init__(self, session, seed):
+        self.session, self.screen = session, session.screen
+        self.random = random.Random(seed)
+        self.queued = False  # an answer waits for the next question
+
+    # What he sees
+
+    def node(self, form, field):
+        return self.session.seen.fields[form][field]
+
+    def shown(self, form, wanted):
+        return [field for kind, field in FORMS[form]
+                if wanted(kind, field) and self.node(form, field).has(accessible.SHOWING)]
+
+    def front(self):
+        return self.session.wanted.front()
+
+    def require_on_screen(self, *points):
+        for x, y in points:
+            if not self.screen.reaches(x, y):
+                raise OutOfSight()
+
+    def tip_covers(self, x, y):
+        tip = self.session.seen.fields.get("Warmt", {}).get("picToolTip")
+        if tip is None or not tip.has(accessible.SHOWING):
+            return False
+        left, top, width, height = self.session.program.place(tip)
+        return left <= x < left + width and top <= y < top + height
+
+    # What he does
+
+    def act(self):
+        if not self.queued:
+            self.session.play("answer " + self.random.choice(["yes", "no"]))
+            self.queued = True
+        kinds = {
+            "Warmt": [self.type] * 6 + [self.step] * 6 + [self.press_tool] * 5
+            + [self.step_by_key] * 2 + [self.choose, self.press_tip, self.hover, self.leave,
+                                        self.menu, self.add, self.add, self.show_total,
+                                        self.resize, self.move, self.bring_forward],
+            "Settings": [self.type] * 4 + [self.step] * 2 + [self.pick_tab] * 3
+            + [self.press_button] * 2 + [self.close_window],
+            "Lang": [self.press_language] * 5 + [self.press_button, self.close_window,
+                                                 self.bring_forward, self.move],
+            "Address": [self.press_button, self.close_window, self.bring_forward],
+            "Total": [self.drag_rows] * 4 + [self.close_window] + [self.bring_forward] * 2
+            + [self.resize, self.move],
+        }
+        try:
+            self.random.choice(kinds[self.front()])()
+        except OutOfSight:
+            pass
+
+    def do(self, lines, hands):
+        told = self.session.play(*lines)
+        if any("| yes/no ->" in line for line in told):
+            self.queued = False
+        hands()
+        self.screen.display.sync()
+        self.session.hear(told)
+
+    def go_to(self, form, field):
+        """Moves the mouse over a field, past whatever lies there."""
+        node = self.node(form, field)
+        left, top, width, height = self.session.program.place(node)
+        x = left + self.random.randrange(2, max(3, width - 2))
+        # The tip lies over the lower edge of its button.
+        y = top + self.random.randrange(1, max(2, height - (8 if field in TOOLS else 1)))
+        self.require_on_screen((x, y))
+        if field != "LblTooltip" and self.tip_covers(x, y):
+            self.leave()
+        lines = [f"hover {form}.{field}"] if field in TOOLS else []
+        self.do(lines, lambda: self.session.move_to(x, y))
+
+    def click_on(self, form, field, line):
+        self.go_to(form, field)
+        if not self.session.ended:
+            self.do([line], self.screen.click)
+
+    def press_keys(self, line, *keys):
+        def hands():
+            for key in keys:
+                self.screen.key(*key if isinstance(key, tuple) else (key,))
+        self.do([line] if line else [], hands)
+
+    def type(self):
+        form = self.front()
+        fields = self.shown(form, lambda kind, field: kind == "t")
+        if not fields:
+            return
+        name = self.random.choice(fields)
+        field = f"{form}.{name}"
+        self.click_on(form, name, f"click {field}")
+        way = self.random.randrange(4)
+        if way == 0:
+            self.press_keys(None, "End")
+            for _ in range(self.random.randrange(1, 4)):
+                self.press_keys(f"erase {field}", "\b")
+            return
+        if way == 1:
+            self.press_keys(None, "End")
+            for _ in range(self.random.randrange(1, 3)):
+                letter = self.random.choice(LETTERS)
+                self.press_keys(f"type {field} {letter}", letter)
+            return
+        word = self.random.choice(WORDS)
+        self.press_keys(f"set {field} {word[0]}", ("a", "Control_L"), word[0])
+        for letter in word[1:]:
+            if self.session.ended:
+                return
+            self.press_keys(f"type {field} {letter}", letter)
+
+    def step(self):
+        form = self.front()
+        arrows = self.shown(form, lambda kind, field: field.endswith((".up", ".down")))
+        if not arrows:
+            return
+        arrow = self.random.choice(arrows)
+        pair, _, direction = arrow.rpartition(".")
+        for _ in range(self.random.randrange(1, 5)):
+            if self.session.ended:
+                return
+            self.click_on(form, arrow, f"{direction} {form}.{pair}")
+
+    def step_by_key(self):
+        fields = self.shown("Warmt", lambda kind, field: kind == "t")
+        name = self.random.choice(fields)
+        self.click_on("Warmt", name, f"click {name}")
+        row = 5 if name == "txtmtrs" else int(name[-2])
+        direction = self.random.choice(["up", "down"])
+        self.press_keys(f"{direction} SpinButton1({row})", direction.capitalize())
+
+    def press_tool(self):
+        tool = self.random.choice(self.shown("Warmt", lambda kind, field: field in TOOLS))
+        self.click_on("Warmt", tool, f"click {tool}")
+
+    def choose(self):
+        count = len(self.session.wanted.raw["Warmt.Combo1.ListCount"])
+        items = int(self.session.wanted.raw["Warmt.Combo1.ListCount"])
+        if not count or not items:
+            return
+        item = self.random.randrange(items)
+        self.go_to("Warmt", "Combo1")
+        self.do([], self.screen.click)
+        self.press_keys(None, "Home", *["Down"] * item)
+        self.press_keys(f"choose Combo1 {item}", "Return")
+
+    def hover(self):
+        tool = self.random.choice(self.shown("Warmt", lambda kind, field: field in TOOLS))
+        self.go_to("Warmt", tool)
+
+    def press_tip(self):
+        self.hover()
+        self.session.compare()
+        self.click_on("Warmt", "LblTooltip", "click LblTooltip")
+
+    def leave(self):
+        """The bare form, beside the cards."""
+        top = self.session.seen.tops["Warmt"]
+        left, up, width, height = self.session.program.place(top)
+        x, y = left + 5, up + self.random.randrange(height // 2, height - 40)
+        self.require_on_screen((x, y))
+        self.do(["hover Warmt"], lambda: self.session.move_to(x, y))
+
+    def menu(self):
+        entry = self.random.choice([1, 1, 1, 1, 1, 2, 2, 2, 2, 3])
+        self.click_on("Warmt", f"lblMenu({entry})", f"click lblMenu({entry})")
+
+    def add(self):
+        for field in self.shown("Warmt", lambda kind, field: field == "cmdAdd"):
+            self.click_on("Warmt", field, "click cmdAdd")
+
+    def show_total(self):
+        for field in self.shown("Warmt", lambda kind, field: field == "picTotal"):
+            self.click_on("Warmt", field, "click picTotal")
+
+    def pick_tab(self):
+        tab = self.random.randrange(3)
+        tabs = self.node("Settings", "SSTab1").children
+        node = [child for child in tabs if child.role == accessible.PAGE_TAB][tab]
+        x, y = self.session.point_in(node)
+        self.require_on_screen((x, y))
+        self.do([], lambda: self.session.move_to(x, y))
+        self.do([f"tab Settings.SSTab1 {tab}"], self.screen.click)
+
+    def press_button(self):
+        form = self.front()
+        field = self.random.choice(CLICKED[form])
+        self.click_on(form, field, f"click {form}.{field}")
+
+    def press_language(self):
+        named = self.shown("Lang", lambda kind, field: field.startswith("Label2"))
+        named = [field for field in named if self.session.wanted.text("Lang", field)]
+        field = self.random.choice(named)
+        self.click_on("Lang", field, f"click Lang.{field}")
+
+    def drag_rows(self):
+        rows = int(self.session.wanted.raw["Total.grdResult.Rows"]) - 1
+        table = self.node("Total", "grdResult")
+        cells = [cell for cell in table.children if cell.role == accessible.TABLE_CELL]
+        columns = len(cells) // rows if rows > 0 else 0
+        if not columns:
+            return
+        first, last = (self.random.randrange(rows) for _ in range(2))
+        places = [self.session.point_in(cells[row * columns + 1]) for row in (first, last)]
+        left, top, width, height = self.session.program.place(table)
+        if any(not (left < x < left + width and top < y < top + height - 20) for x, y in places):
+            return
+        self.require_on_screen(*places)
+
+        def drag():
+            self.screen.press()
+            self.session.move_to(*places[1])
+            self.screen.release()
+
+        self.do([], lambda: self.session.move_to(*places[0]))
+        self.do([f"rows Total.grdResult {first + 1} {last + 1}"], drag)
+
+    # The window manager
+
+    def window(self, form):
+        title = self.session.seen.tops[form].name
+        windows = [window for window in self.screen.windows_of(self.session.process.pid)
+                   if self.screen.title_of(window) == title]
+        return windows[0] if len(windows) == 1 else None
+
+    def close_window(self):
+        form = self.front()
+        window = self.window(form)
+        if window is not None:
+            self.do([f"close {form}"],
+                    lambda: self.screen.ask_manager(window, "_NET_CLOSE_WINDOW"))
+
+    def bring_forward(self):
+        form = self.random.choice(self.session.wanted.forms)
+        window = self.window(form)
+        if window is not None:
+            pager = 2
+            self.do([f"activate {form}"], lambda: self.screen.ask_manager(
+                window, "_NET_ACTIVE_WINDOW", pager, 0))
+
+    def place_window(self, flags, *place):
+        window = self.window(self.front())
+        if window is not None:
+            self.do([], lambda: self.screen.ask_manager(
+                window, "_NET_MOVERESIZE_WINDOW", flags << 8 | 2 << 12, *place))
+
+    def resize(self):
+        size = self.random.randrange(300, 1200), self.random.randrange(300, 1000)
+        self.place_window(0b1100, 0, 0, *size)
+
+    def move(self):
+        place = self.random.randrange(0, 400), self.random.randrange(0, 300)
+        self.place_window(0b0011, *place, 0, 0)
