@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <climits>
 #include <optional>
 #include <system_error>
 #include <thread>
@@ -33,20 +34,38 @@ struct Old {
   PlainFile file{};
 };
 
-/// Where a link leads to, and any other path as it is. Nothing for a link that somebody else has
-/// put there: it may lead to a file that the user can write to and its maker can't.
-std::optional<fs::path> Followed(const fs::path& name) {
-  struct stat link {};
-  struct stat folder {};
-  if (lstat(name.c_str(), &link) != 0 || !S_ISLNK(link.st_mode)) return name;
-  if (stat(name.parent_path().c_str(), &folder) != 0) return std::nullopt;
-  if (link.st_uid != geteuid() && link.st_uid != 0 && link.st_uid != folder.st_uid) {
+/// What a link says and whose it is, both of the same link: another one may take its place between
+/// two calls.
+struct Link {
+  fs::path target;
+  uid_t owner = 0;
+};
+
+/// Nothing when the path isn't a link's.
+std::optional<Link> Read_Link(const fs::path& name) {
+  const OpenFile link(open(name.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
+  struct stat status {};
+  if (!link.Is_Open() || fstat(link.Number(), &status) != 0 || !S_ISLNK(status.st_mode)) {
     return std::nullopt;
   }
+  std::string target(PATH_MAX, '\0');
+  const ssize_t length = readlinkat(link.Number(), "", target.data(), target.size());
+  if (length < 0) return std::nullopt;
+  target.resize(static_cast<std::size_t>(length));
+  return Link{target, status.st_uid};
+}
+
+/// Where a link leads to, and any other path as it is. Nothing for a link that somebody else has
+/// put there, the folder's owner too: it may lead to a file that the user can write to and its
+/// maker can't.
+std::optional<fs::path> Followed(const fs::path& name) {
+  const auto link = Read_Link(name);
+  if (!link) return name;
+  if (link->owner != geteuid() && link->owner != 0) return std::nullopt;
+  const fs::path target = name.parent_path() / link->target;
   std::error_code error;
-  fs::path target = fs::canonical(name, error);
-  if (!error) return target;
-  return name.parent_path() / fs::read_symlink(name, error);  // nothing is there yet
+  fs::path place = fs::canonical(target, error);
+  return error ? target : place;  // nothing is there yet
 }
 
 int Open_Folder(const fs::path& folder) {

@@ -89,6 +89,16 @@ def planted_link(program):
     return "what it leads to stays; nothing is kept"
 
 
+def folder_owners_link(program):
+    victim = private_file(program)
+    folder = shared_folder(program)
+    (folder / "norvane.ini").symlink_to(victim)
+    owned(folder / "norvane.ini", STRANGER)
+    change(program, folder)
+    expect("the user's other file", victim.read_bytes(), PRIVATE)
+    return "what it leads to stays, though the whole folder is the stranger's"
+
+
 def own_link(program):
     folder = owned(program.folder(), USER)
     elsewhere = owned(program.new_place(), USER)
@@ -324,6 +334,7 @@ WORLDS = [
     ("a folder that a stranger has locked", lock_of_a_stranger),
     ("a folder that can't be locked", no_locks),
     ("settings that a stranger's link leads to", planted_link),
+    ("settings that a link of the folder's owner leads to", folder_owners_link),
     ("settings that the user's own link leads to", own_link),
     ("a link under a foretold name", foretold_link),
     ("a pipe under a foretold name", foretold_pipe),
