@@ -1,3 +1,4 @@
+#include <exception>
 #include <filesystem>
 #include <iostream>
 #include <string>
@@ -12,6 +13,7 @@
 namespace {
 
 constexpr int kUsage = 2;
+constexpr int kFailed = 1;
 
 /// The decimal sign that the arguments behind the folder ask for, or 0 when they aren't understood.
 char Decimal_Separator(const std::vector<std::string>& arguments) {
@@ -21,11 +23,7 @@ char Decimal_Separator(const std::vector<std::string>& arguments) {
   return arguments[2] == "comma" ? ',' : '\0';
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  norvane::Let_Writes_Fail();
-  norvane::Let_Streams_Be_Bytes();
+int Play(int argc, char** argv) {
   const std::vector<std::string> arguments = norvane::Arguments(argc, argv);
   const char decimal_separator = arguments.empty() ? '\0' : Decimal_Separator(arguments);
   if (decimal_separator == 0 || !std::filesystem::is_directory(norvane::To_Path(arguments[0]))) {
@@ -35,4 +33,18 @@ int main(int argc, char** argv) {
   norvane::HeadlessPlatform platform(norvane::To_Path(arguments[0]), decimal_separator, std::cout);
   norvane::Script script(platform, std::cin, std::cout, std::cerr);
   return static_cast<int>(script.Run());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  norvane::Let_Writes_Fail();
+  norvane::Let_Streams_Be_Bytes();
+  try {
+    return Play(argc, argv);
+  } catch (const std::exception& problem) {
+    // The program tells of its own failures; this one is the driver's.
+    std::cerr << "norvane-driver: error: " << problem.what() << '\n';
+    return kFailed;
+  }
 }

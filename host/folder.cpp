@@ -1,17 +1,25 @@
 #include "host/folder.h"
 
+#include <dirent.h>
+
+#include <memory>
+#include <string_view>
 #include <system_error>
 
 namespace norvane {
 
 namespace fs = std::filesystem;
 
+// The standard library's own iterator ends the process when it is out of memory.
 std::vector<FolderEntry> Entries_Of(const fs::path& folder) {
   std::vector<FolderEntry> entries;
-  std::error_code error;
-  for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
+  const std::unique_ptr<DIR, int (*)(DIR*)> open(opendir(folder.c_str()), closedir);
+  if (open == nullptr) return entries;
+  while (const dirent* entry = readdir(open.get())) {
+    const std::string_view name = entry->d_name;
+    if (name == "." || name == "..") continue;
     std::error_code no_status;
-    entries.push_back({at->path().filename().string(), at->is_directory(no_status)});
+    entries.push_back({std::string(name), fs::is_directory(folder / name, no_status)});
   }
   return entries;
 }

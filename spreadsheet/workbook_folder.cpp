@@ -7,6 +7,7 @@
 #include <string>
 #include <system_error>
 
+#include "host/folder.h"
 #include "host/random_digits.h"
 #include "platform/spreadsheet.h"
 
@@ -34,17 +35,17 @@ bool Is_Of_The_Past(const fs::path& path) {
       !fs::is_directory(fs::symlink_status(path, error)) || !Is_Left_Alone(path)) {
     return false;
   }
-  for (fs::directory_iterator at(path, error), end; !error && at != end; at.increment(error)) {
-    if (!Is_Left_Alone(at->path())) return false;
+  for (const FolderEntry& entry : Entries_Of(path)) {
+    if (!Is_Left_Alone(path / entry.name)) return false;
   }
-  return !error;
+  return true;
 }
 
 void Remove_Those_Of_The_Past(const fs::path& temporary) {
-  std::error_code error;
-  for (fs::directory_iterator at(temporary, error), end; !error && at != end; at.increment(error)) {
+  for (const FolderEntry& entry : Entries_Of(temporary)) {
+    const fs::path path = temporary / entry.name;
     std::error_code kept;
-    if (Is_Of_The_Past(at->path())) fs::remove_all(at->path(), kept);
+    if (Is_Of_The_Past(path)) fs::remove_all(path, kept);
   }
 }
 
@@ -53,9 +54,10 @@ void Remove_Those_Of_The_Past(const fs::path& temporary) {
 fs::path New_Workbook_Folder() {
   std::error_code error;
   const fs::path temporary = fs::temp_directory_path(error);
-  const fs::path folder = temporary / (kBegin + Random_Digits());
-  if (error || mkdir(folder.c_str(), S_IRWXU) != 0) throw SpreadsheetFailure();
+  if (error) throw SpreadsheetFailure();
   Remove_Those_Of_The_Past(temporary);
+  fs::path folder = temporary / (kBegin + Random_Digits());
+  if (mkdir(folder.c_str(), S_IRWXU) != 0) throw SpreadsheetFailure();
   return folder;
 }
 

@@ -97,9 +97,11 @@ void XlsxSpreadsheet::Release() {
   WriteWorkbook* const write = Writer();
   if (write == nullptr) return;
   try {
+    // First of all, since without it there is to be no folder either.
+    PatientThread thread(waiting_, kPatience);
     const fs::path file = New_File(book->title);
     const auto task = [=] { return Write_Or_Remove(write, book->cells, file); };
-    if (PatientThread(waiting_, kPatience).Run(task)) open_(file);
+    if (thread.Run(task)) open_(file);
   } catch (const SpreadsheetFailure&) {
     // A step that fails is passed over without a word.
   } catch (const fs::filesystem_error&) {

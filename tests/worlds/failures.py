@@ -1,25 +1,30 @@
 """Each call of the system fails once: the first, the second, the third ... until a run passes.
 
-A run starts the program, changes the hours, chooses another language and saves a line.
+A run starts the program, changes the hours, chooses another language and saves a line, or exports.
 """
 
 import os
+import re
+import shutil
 import subprocess
+import xml.etree.ElementTree
+import zipfile
 from concurrent.futures import ThreadPoolExecutor
 
 from locale_environment import need
 from program import PATIENCE, expect, set_hours, values_of
 
-CALLS = ["open", "read", "write", "fsync", "rename", "flock", "mkdir", "fork", "pthread_create"]
-FREQUENT = ("open", "read", "write")
-MANY = 20_000  # more than any run has
+CALLS = ["open", "read", "write", "fsync", "rename", "flock", "mkdir", "fork", "pthread_create",
+         "malloc"]
+STEPS = {"open": 3, "read": 3, "write": 5, "malloc": 97}  # of the short form
+MANY = 100_000  # more than any run has
 AT_ONCE = 2
 OTHERS = "; a line of somebody else\r\n" * 3
 BEFORE = ("[Init]\r\nA1= 17\r\nA4= 9\r\nLanguage=en\r\n[Setting]\r\nHr_Day= 8\r\nDays= 30\r\n"
           + OTHERS).encode()
 USE = "start\n" + set_hours(7) + "click lblMenu(1)\nclick Lang.Label2(1)\nclick cmdAdd\nget Hr_Day\n"
-# The program's own words for what it can't do, and the end behind them.
-OWN_END = 3
+# Behind words of an error: of the driver before the program runs, and of the program.
+OWN_ENDS = (1, 3)
 
 
 def expect_old_or_new(settings, what):
@@ -50,7 +55,7 @@ def play_with_failure(program, folder, call, number, player, temporary, script=b
 
 def numbers_to_fail(program, call):
     """Which calls fail; the short form takes some of the frequent ones."""
-    return range(1, MANY, 3 if program.short and call in FREQUENT else 1)
+    return range(1, MANY, STEPS.get(call, 1) if program.short else 1)
 
 
 def each_failure(program, call, play):
@@ -74,8 +79,8 @@ def use(program, call, number):
     status, printed, failed = play_with_failure(program, folder, call, number, [program.driver],
                                                 folder, USE.encode())
     what = f"{call} {number}"
-    expect(f"{what}: ends by itself (it says {printed[-300:]!r})", status in (0, OWN_END), True)
-    if status == OWN_END:
+    expect(f"{what}: ends by itself (it says {printed[-300:]!r})", status in (0, *OWN_ENDS), True)
+    if status in OWN_ENDS:
         expect(f"{what}: says why", b"error" in printed, True)
     expect_old_or_new((folder / "norvane.ini").read_bytes(), what)
     expect(f"{what}: the folder", sorted(os.listdir(folder)), names)
@@ -89,4 +94,43 @@ def every_use(program):
     return ", ".join(f"{call} {count}" for call, count in counts.items() if count)
 
 
-WORLDS = [("a start, new hours, a new language, a saved line", every_use)]
+def export(program, call, number):
+    folder = program.folder()
+    shutil.copy(program.installed / "total.xls", folder)
+    (folder / "norvane_workbook.so").symlink_to(program.installed / "norvane_workbook.so")
+    temporary = program.new_place()
+    status, printed, failed = play_with_failure(
+        program, folder, call, number, [need(program, "tests/worlds/exporter")], temporary)
+    what = f"{call} {number}"
+    expect(f"{what}: ends by itself (it says {printed[-300:]!r})", status in (0, *OWN_ENDS), True)
+    books = re.findall(rb"opened (.*)", printed)
+    expect(f"{what}: the lines are there", status != 0 or b"lines 2" in printed, True)
+    expect(f"{what}: a file for each that is opened",
+           len(list(temporary.glob("*/total.xlsx"))), len(books))
+    for book in books:
+        expect(f"{what}: the numbers of the file", len(numbers_of(book.decode())), 3)
+    expect(f"{what}: folders", len(os.listdir(temporary)), len(books))
+    if not failed:
+        expect(f"{what}: an undisturbed run exports", len(books), 1)
+    return failed
+
+
+def numbers_of(book):
+    """The numbers of a whole workbook; zipfile finds out any other."""
+    with zipfile.ZipFile(book) as archive:
+        expect("a broken part of the workbook", archive.testzip(), None)
+        sheet = xml.etree.ElementTree.fromstring(archive.read("xl/worksheets/sheet1.xml"))
+    return [float(cell.find("{*}v").text) for cell in sheet.findall(".//{*}c")
+            if cell.get("t") is None and cell.find("{*}v") is not None]
+
+
+def every_export(program):
+    need(program, "tests/worlds/exporter")
+    # The library that writes the file takes the smallest pieces of memory for granted.
+    counts = {call: each_failure(program, call, lambda *at: export(program, *at))
+              for call in CALLS if call != "malloc"}
+    return ", ".join(f"{call} {count}" for call, count in counts.items() if count)
+
+
+WORLDS = [("a start, new hours, a new language, a saved line", every_use),
+          ("a start and an export to a workbook file", every_export)]
