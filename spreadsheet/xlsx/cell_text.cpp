@@ -14,10 +14,17 @@ bool Is_Digit(char letter) {
   return std::string_view("0123456789abcdefABCDEF").find(letter) != std::string_view::npos;
 }
 
+/// Whether a letter stands in the file as an underscore, or with one in front: the writer spells
+/// control letters.
+bool Begins_With_Underscore(char letter) {
+  return letter == '_' || static_cast<unsigned char>(letter) < ' ';
+}
+
 /// Whether a text begins like the spelling of an odd letter.
 bool Is_Spelling(std::string_view text) {
   constexpr std::size_t kDigits = 4;
-  return text.size() >= kDigits + 3 && text.starts_with("_x") && text[kDigits + 2] == '_' &&
+  return text.size() >= kDigits + 3 && text.starts_with("_x") &&
+         Begins_With_Underscore(text[kDigits + 2]) &&
          std::all_of(text.begin() + 2, text.begin() + 2 + kDigits, Is_Digit);
 }
 
