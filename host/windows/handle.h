@@ -24,9 +24,8 @@ class Handle {
   HANDLE handle_;
 };
 
-/// Whether the last error passes by itself: somebody else has the file open just now.
-inline bool Somebody_Is_At_It() {
-  const DWORD error = GetLastError();
+/// Whether an error passes by itself: somebody else has the file open just now.
+inline bool Is_Busy(DWORD error) {
   return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
          error == ERROR_ACCESS_DENIED || error == ERROR_DELETE_PENDING;
 }
@@ -37,7 +36,7 @@ template <class Attempt>
 bool Try_While_Busy(const Attempt& attempt, std::chrono::milliseconds patience) {
   const auto end = std::chrono::steady_clock::now() + patience;
   while (!attempt()) {
-    if (!Somebody_Is_At_It() || std::chrono::steady_clock::now() >= end) return false;
+    if (!Is_Busy(GetLastError()) || std::chrono::steady_clock::now() >= end) return false;
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
   return true;

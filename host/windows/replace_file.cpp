@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <optional>
+#include <thread>
 #include <utility>
 
 #include "host/plain_file.h"
@@ -19,8 +20,8 @@ namespace fs = std::filesystem;
 using Edit = std::function<std::string(const std::string&)>;
 
 constexpr std::chrono::seconds kPatience{3};
-/// For what may be forbidden for ever.
-constexpr std::chrono::milliseconds kShortPatience{50};
+/// So many times at once, and the folder is one that can't be written to.
+constexpr int kRefusals = 50;
 constexpr int kAttempts = 20;
 
 /// Where a link leads to; the path itself where nothing is there.
@@ -45,8 +46,15 @@ std::wstring Final_Path(const std::wstring& path) {
 class Turn {
  public:
   explicit Turn(const std::wstring& path) : name_(path + L".turn") {
-    came_ = Try_While_Busy([this] { return Take(); }, kShortPatience) ||
-            (Is_Taken() && Try_While_Busy([this] { return Take(); }, kPatience));
+    const auto end = std::chrono::steady_clock::now() + kPatience;
+    int refused = 0;  // one after the other
+    while (!(came_ = Take()) && std::chrono::steady_clock::now() < end) {
+      const DWORD error = GetLastError();
+      // A file that is just being removed is refused, too, but not for long.
+      refused = error == ERROR_ACCESS_DENIED ? refused + 1 : 0;
+      if (refused == kRefusals || !Is_Busy(error)) return;
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
   }
   ~Turn() {
     if (came_) CloseHandle(handle_);
@@ -54,15 +62,12 @@ class Turn {
   Turn(const Turn&) = delete;
   Turn& operator=(const Turn&) = delete;
 
-  bool Came() const { return came_; }
-
  private:
   bool Take() {
     handle_ = CreateFileW(name_.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_ALWAYS,
                           FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
     return handle_ != INVALID_HANDLE_VALUE;
   }
-  bool Is_Taken() const { return GetFileAttributesW(name_.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
   std::wstring name_;
   HANDLE handle_ = INVALID_HANDLE_VALUE;
