@@ -1,7 +1,8 @@
 // The economic thickness of a steel pipe of 60 mm at 80 degrees, heated by gas.
 #include "study/compare.h"
 
-#include <cstdio>
+#include <iomanip>
+#include <iostream>
 #include <variant>
 
 int main() {
@@ -14,13 +15,15 @@ int main() {
   request.choices = {{13, 12.00}, {20, 16.00}, {30, 24.00}, {50, 90.00}};
   request.energy = norvane::EnergyPrice{norvane::Fuel::kGas, 1.20};
   request.years = 10;
+  std::cout << std::fixed << std::setprecision(0);
   for (const norvane::Compared& row : norvane::Compare(request)) {
+    std::cout << row.thickness_mm << " mm";
     if (const auto* reason = std::get_if<norvane::Reason>(&row.result)) {
-      std::printf("%g mm: %s\n", row.thickness_mm, norvane::Words(*reason).c_str());
+      std::cout << ": " << norvane::Words(*reason) << '\n';
       continue;
     }
-    std::printf("%g mm saves %.0f a year, costs %.0f a year%s\n", row.thickness_mm,
-                row.money_per_year.value_or(0), row.yearly_cost.value_or(0),
-                row.economic ? " <- economic" : "");
+    std::cout << " saves " << row.money_per_year.value_or(0) << " a year, costs "
+              << row.yearly_cost.value_or(0) << " a year" << (row.economic ? " <- economic" : "")
+              << '\n';
   }
 }
