@@ -15,7 +15,8 @@ build=build/package
 # of them has to be changed.
 cmake -S . -B $build -G Ninja -DCMAKE_BUILD_TYPE=Release -DNORVANE_TESTS=OFF \
   -DNORVANE_HARDENED=ON -DNORVANE_OFFICE=ON -DNORVANE_XLSX=ON -DNORVANE_FOLDER="$PWD/$build/norvane" \
-  -DCMAKE_BUILD_RPATH='$ORIGIN/lib' -DCMAKE_EXE_LINKER_FLAGS=-Wl,--disable-new-dtags >$build.log 2>&1 ||
+  -DCMAKE_BUILD_WITH_INSTALL_RPATH=ON -DCMAKE_INSTALL_RPATH='$ORIGIN/lib' \
+  -DCMAKE_EXE_LINKER_FLAGS=-Wl,--disable-new-dtags -DCMAKE_MODULE_LINKER_FLAGS=-Wl,--disable-new-dtags >$build.log 2>&1 ||
   { cat $build.log; exit 1; }
 cmake --build $build
 
@@ -67,7 +68,7 @@ package_of() {
 }
 {
   cat $build/libraries
-  find "$plugins" -name '*.so'
+  (cd "$folder/plugins" && find . -name '*.so') | sed "s|^\.|$plugins|"
   ls /usr/share/fonts/truetype/liberation/LiberationSans-*.ttf
 } | while read -r file; do
   package=$(package_of "$file" | sed 's/:.*//')
