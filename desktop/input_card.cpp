@@ -15,11 +15,13 @@ namespace norvane {
 namespace {
 
 constexpr int kRowGap = 6;
+constexpr int kThickness = 2;      // of condensation it is a result
 constexpr int kLengthHeading = 5;  // the index of Label1 and SpinButton1 in the last row
 
 }  // namespace
 
-InputCard::InputCard(FormView& view, Warmt& warmt) : view_(view), warmt_(warmt) {
+InputCard::InputCard(FormView& view, Warmt& warmt)
+    : view_(view), warmt_(warmt), picker_(view, warmt) {
   auto* grid = new QGridLayout(this);
   Lay_Out_Columns(*grid);
   grid->setVerticalSpacing(kRowGap);
@@ -49,6 +51,8 @@ void InputCard::Add_Row(QGridLayout& grid, int row, int index) {
     grid.addWidget(edit, row, kNumberColumn);
     heading.setBuddy(edit);
     view_.Bind<TextBinder>((*F)(index), *edit, &pair);
+    const bool heat_loss = F == &warmt_.txtT;
+    if (heat_loss || index != kThickness) picker_.Offer(*edit, {index, heat_loss});
   }
   auto* arrows = new SpinArrows;
   grid.addWidget(arrows, row, kArrowsColumn);
@@ -76,6 +80,7 @@ void InputCard::Add_Length_Row(QGridLayout& grid, int row) {
   grid.addWidget(edit, row, kNumberColumn);
   heading.setBuddy(edit);
   view_.Bind<TextBinder>(warmt_.txtmtrs, *edit, &pair);
+  picker_.Offer(*edit, {InputRow::kLength, true});
   auto* arrows = new SpinArrows;
   grid.addWidget(arrows, row, kArrowsColumn);
   view_.Bind<SpinBinder>(pair, *arrows);
@@ -108,6 +113,7 @@ void InputCard::Name_Fields() {
     Tell(*conversion, name + ": " + conversion->text() + ' ' + text(warmt_.Label8(index)));
   }
   Tell(*view_.Widget_Of(warmt_.txtmtrs), text(warmt_.Label1(kLengthHeading)));
+  picker_.Name_Arrows();
 }
 
 }  // namespace norvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/card.h"
+#include "desktop/input_picker.h"
 
 class QGridLayout;
 class QLabel;
@@ -30,6 +31,7 @@ class InputCard : public Card {
 
   FormView& view_;
   Warmt& warmt_;
+  InputPicker picker_;
 };
 
 }  // namespace norvane

@@ -5,6 +5,7 @@ import random
 import accessible
 from windows import FORMS, TOOLS
 
+ARROW_WIDTH = 22
 WORDS = ["80", "13", "0", "1", "10", "21", "5.99", "6", "2.5", "100", "100.5", "-1", "-50", "115",
          "116", "32767", "1e5", "24", "0,038", "0.038", "0.04", "12,5", "12.5", "abc", "12abc",
          "-", ".", "914", "0.5", "1 2", "7654321", "-32769", "365", "366"]
@@ -87,7 +88,9 @@ class User:
         """Moves the mouse over a field, past whatever lies there."""
         node = self.node(form, field)
         left, top, width, height = self.session.program.place(node)
-        x = left + self.random.randrange(2, max(3, width - 2))
+        # The arrow of a field's picker has its left edge.
+        nearest = ARROW_WIDTH if field.startswith("txt") else 2
+        x = left + self.random.randrange(nearest, max(nearest + 1, width - 2))
         # The tip lies over the lower edge of its button.
         y = top + self.random.randrange(1, max(2, height - (8 if field in TOOLS else 1)))
         self.require_on_screen((x, y))

@@ -33,6 +33,7 @@ void ScreenWalk::Walk_In(const std::string& code) {
   Choose_Language(code);
   Walk_Through_Addresses();
   Walk_Through_States();
+  Walk_Through_Pickers();
   Walk_Through_Settings();
   Save_Lines();
   Walk_Through_Totals();
@@ -121,6 +122,28 @@ void ScreenWalk::Walk_Through_States() {
       Show((heat_loss ? "heat-loss-" : "condensation-") + std::string(kKinds[kind].name), Screen());
     }
   }
+}
+
+void ScreenWalk::Walk_Through_Pickers() {
+  Click(Screen().cmdToolBarC);
+  Show_Picker("picker-humidity", Screen().txtC(4));
+  Click(Screen().cmdToolBarT);
+  Show_Picker("picker-temperature", Screen().txtT(0));
+  Show_Picker("picker-diameter", Screen().txtT(3));
+  Show_Picker("picker-length", Screen().txtmtrs);
+}
+
+void ScreenWalk::Show_Picker(const std::string& screen, const TextField& field) {
+  // From a toolbar button's tooltip, which may lie over the field.
+  Hover(Main_View(), {3, Main_View().height() / 2});
+  Click(field);
+  Press(Qt::Key_F4);
+  auto* picker = Main_View().findChild<QWidget*>("picker");
+  ASSERT_TRUE(picker != nullptr && picker->isVisible()) << "no picker";
+  Settle();
+  const QImage window = Grab(Main_View());
+  Look_At(screen, *picker, window, window);
+  Press(Qt::Key_Escape);
 }
 
 void ScreenWalk::Walk_Through_Settings() {

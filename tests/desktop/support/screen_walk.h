@@ -33,6 +33,8 @@ class ScreenWalk : public DesktopTest {
   void Choose_Language(const std::string& code);
   void Walk_Through_Addresses();
   void Walk_Through_States();
+  void Walk_Through_Pickers();
+  void Show_Picker(const std::string& screen, const TextField& field);
   void Walk_Through_Settings();
   void Save_Lines();
   void Walk_Through_Totals();

@@ -1,0 +1,78 @@
+#include "desktop/input_picker.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <cstdlib>
+
+#include "desktop/desktop.h"
+#include "desktop/form_view.h"
+#include "desktop/own_texts.h"
+#include "desktop/picker.h"
+#include "desktop/picker_arrow.h"
+#include "screen/warmt.h"
+
+namespace norvane {
+
+TextField& InputPicker::Field_Of(const InputRow& row) {
+  if (row.index == InputRow::kLength) return warmt_.txtmtrs;
+  return (row.heat_loss ? warmt_.txtT : warmt_.txtC)(row.index);
+}
+
+void InputPicker::Offer(QLineEdit& edit, const InputRow& row) {
+  const Offered offered{row, &edit, new PickerArrow(edit)};
+  offered_.push_back(offered);
+  connect(offered.arrow, &PickerArrow::clicked, this, [this, offered] { Open(offered); });
+}
+
+void InputPicker::Name_Arrows() {
+  const QString action = Own_Text(view_.desktop(), TextId::kChooseValue);
+  for (const Offered& each : offered_) {
+    const QString heading = view_.desktop().Text(warmt_.Label1(each.row.index).Caption());
+    each.arrow->Name_After(heading, action);
+  }
+}
+
+void InputPicker::Open(const Offered& offered) {
+  if (picker_ == nullptr) {
+    picker_ = new Picker(&view_);
+    connect(picker_, &Picker::Taken, this, &InputPicker::Take);
+    connect(picker_, &Picker::Passed, this, &InputPicker::Pass);
+  }
+  open_ = offered;
+  offered.edit->setFocus(Qt::OtherFocusReason);
+  const Desktop& desktop = view_.desktop();
+  const Module1& state = view_.desktop().program().State();
+  const int index = offered.row.index;
+  PickerSubject subject;
+  subject.choices = Choices_Of(warmt_, offered.row, state.Sel_Size);
+  subject.locale = state.Locale();
+  subject.name = desktop.Text(warmt_.Label1(index).Caption());
+  subject.text = offered.edit->text();
+  if (index <= warmt_.Label7.UBound()) subject.unit = desktop.Text(warmt_.Label7(index).Caption());
+  if (index <= warmt_.Label8.UBound()) {
+    subject.inch_unit = desktop.Text(warmt_.Label8(index).Caption());
+  }
+  picker_->Open_At(*offered.edit, subject);
+}
+
+void InputPicker::Take(const std::string& text) {
+  const InputRow row = open_.row;
+  if (!Field_Of(row).Locked()) {
+    view_.Send_Text(Field_Of(row), QString::fromStdString(text));
+    return;
+  }
+  const int clicks = Clicks_To(warmt_, row, text);
+  const UserAction click = clicks < 0 ? UserAction::kDown : UserAction::kUp;
+  for (int i = 0; i < std::abs(clicks); ++i) view_.Send(click, warmt_.SpinButton1(row.index));
+}
+
+void InputPicker::Pass(bool forward) {
+  // What was taken may have sent the user to another field.
+  if (view_.focusWidget() != open_.edit) return;
+  QKeyEvent tab(QEvent::KeyPress, forward ? Qt::Key_Tab : Qt::Key_Backtab,
+                forward ? Qt::NoModifier : Qt::ShiftModifier);
+  QCoreApplication::sendEvent(open_.edit, &tab);
+}
+
+}  // namespace norvane

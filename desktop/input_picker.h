@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QObject>
+#include <vector>
+
+#include "screen/choices.h"
+
+class QLineEdit;
+
+namespace norvane {
+
+class FormView;
+class Picker;
+class PickerArrow;
+class TextField;
+class Warmt;
+
+/// Offers a picker for each input field of the main screen, and plays what it is left with by the
+/// ways of a user: a text as a paste, clicks on the spin pair where the field is locked. All fields
+/// share one picker, which is made when it is needed first.
+class InputPicker : public QObject {
+  Q_OBJECT
+
+ public:
+  InputPicker(FormView& view, Warmt& warmt) : view_(view), warmt_(warmt) {}
+
+  /// Gives a field its arrow.
+  void Offer(QLineEdit& edit, const InputRow& row);
+  /// Gives each arrow the name of its field's heading.
+  void Name_Arrows();
+
+ private:
+  struct Offered {
+    InputRow row;
+    QLineEdit* edit;
+    PickerArrow* arrow;
+  };
+
+  TextField& Field_Of(const InputRow& row);
+  void Open(const Offered& offered);
+  void Take(const std::string& text);
+  void Pass(bool forward);
+
+  FormView& view_;
+  Warmt& warmt_;
+  std::vector<Offered> offered_;
+  Offered open_{};
+  Picker* picker_ = nullptr;
+};
+
+}  // namespace norvane

@@ -1,0 +1,24 @@
+#include "desktop/own_texts.h"
+
+#include "desktop/desktop.h"
+
+namespace norvane {
+namespace {
+
+const char* In_English(TextId text) {
+  switch (text) {
+    case TextId::kChooseValue:
+      return "Choose a value";
+    default:
+      return "";
+  }
+}
+
+}  // namespace
+
+QString Own_Text(const Desktop& desktop, TextId text) {
+  const QString translated = desktop.Text(text);
+  return translated.isEmpty() ? QString(In_English(text)) : translated;
+}
+
+}  // namespace norvane

@@ -1,0 +1,189 @@
+#include "screen/choices.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "../support/test_program.h"
+#include "calc/heat_loss.h"
+#include "data/runtime_error.h"
+
+namespace norvane {
+namespace {
+
+const Locale kPoint{'.'};
+const Locale kComma{','};
+
+constexpr InputRow kMedium{0, true};
+constexpr InputRow kThickness{2, true};
+constexpr InputRow kDiameter{3, true};
+constexpr InputRow kLength{InputRow::kLength, true};
+constexpr InputRow kTableTemperature{1, false};
+constexpr InputRow kHumidity{4, false};
+
+/// What the fields of a fresh program can be given.
+class WhatFieldsCanBeGiven : public testing::Test {
+ protected:
+  WhatFieldsCanBeGiven() { program_.Start(); }
+
+  Choices Of(const InputRow& row, std::int16_t kind = kSteelPipe) {
+    return Choices_Of(warmt_, row, kind);
+  }
+  std::string Entered(const std::string& typed, const InputRow& row,
+                      const Locale& locale = kPoint) {
+    return Text_To_Enter(typed, Of(row), locale).value_or("nothing");
+  }
+  std::string Place(const std::string& typed, const InputRow& row) {
+    const Choices choices = Of(row);
+    return choices.entries[Place_Of(typed, choices, kPoint)].text;
+  }
+
+  TestProgram program_;
+  Warmt& warmt_ = program_.Main_Screen();
+};
+
+std::vector<std::string> Texts(const Choices& choices) {
+  std::vector<std::string> texts;
+  for (const Choice& entry : choices.entries) texts.push_back(entry.text);
+  return texts;
+}
+
+TEST_F(WhatFieldsCanBeGiven, AscendsAndLiesWithinTheLimitsInEveryRow) {
+  for (const bool heat_loss : {true, false}) {
+    for (int index = 0; index <= InputRow::kLength; ++index) {
+      if (index == (heat_loss ? 4 : 2)) continue;
+      const Choices choices = Of({index, heat_loss});
+      SCOPED_TRACE(index);
+      ASSERT_FALSE(choices.entries.empty());
+      EXPECT_GE(Val(choices.entries.front().text), choices.limits.least);
+      EXPECT_LE(Val(choices.entries.back().text), choices.limits.most);
+      for (std::size_t i = 1; i < choices.entries.size(); ++i) {
+        EXPECT_LT(Val(choices.entries[i - 1].text), Val(choices.entries[i].text));
+      }
+    }
+  }
+}
+
+TEST_F(WhatFieldsCanBeGiven, HasTheDiametersOfTheFamilyWithTheirInchNames) {
+  const Choices copper = Of(kDiameter, kCopperTube);
+  EXPECT_EQ(copper.entries.size(), 18U);
+  EXPECT_EQ(copper.entries[5].text, "22");
+  EXPECT_EQ(copper.entries[5].inch, "7/8");
+  EXPECT_EQ(copper.entries[11].text, "57");
+  EXPECT_EQ(copper.entries[11].inch, "");
+  EXPECT_EQ(copper.limits.least, 6);
+  EXPECT_EQ(copper.limits.most, 114);
+  EXPECT_EQ(Of(kDiameter, kMetricPipe).limits.most, 108);
+}
+
+TEST_F(WhatFieldsCanBeGiven, HasNoDiameterOfASheet) {
+  EXPECT_THROW(Of(kDiameter, kSheet), RuntimeError);
+}
+
+TEST_F(WhatFieldsCanBeGiven, HasTheThicknessStepsAndNoInsulationBeforeThem) {
+  const Choices steel = Of(kThickness);
+  EXPECT_EQ(Texts(steel), (std::vector<std::string>{"0", "6", "9", "13", "15", "20", "25", "30"}));
+  EXPECT_EQ(steel.entries[3].inch, "1/2");
+  EXPECT_EQ(Of(kThickness, kSheet).entries[3].inch, "");
+}
+
+TEST_F(WhatFieldsCanBeGiven, HasTheTablesOfCondensationAndNothingElse) {
+  const Choices temperatures = Of(kTableTemperature);
+  EXPECT_TRUE(temperatures.entries_only);
+  EXPECT_EQ(temperatures.entries.size(), 24U);
+  EXPECT_EQ(temperatures.limits.least, -20);
+  EXPECT_EQ(temperatures.limits.most, 50);
+  const Choices humidities = Of(kHumidity);
+  EXPECT_TRUE(humidities.entries_only);
+  EXPECT_EQ(humidities.entries.front().text, "30");
+  EXPECT_EQ(humidities.entries.back().text, "95");
+  EXPECT_FALSE(Of(kMedium).entries_only);
+}
+
+TEST_F(WhatFieldsCanBeGiven, TakesNumbersAsAPersonWritesThem) {
+  EXPECT_EQ(Entered("21", kDiameter), "21");
+  EXPECT_EQ(Entered(" 21 ", kDiameter), "21");
+  EXPECT_EQ(Entered("-5", kMedium), "-5");
+  EXPECT_EQ(Entered("\xE2\x88\x92"
+                    "5",
+                    kMedium),
+            "-5");
+  EXPECT_EQ(Entered("12.5", kMedium), "12.5");
+  EXPECT_EQ(Entered(".5", kLength), ".5");
+  EXPECT_EQ(Entered("3.", kLength), "3.");
+}
+
+TEST_F(WhatFieldsCanBeGiven, TakesTheCommaOfALocaleForThePoint) {
+  EXPECT_EQ(Entered("12,5", kMedium, kComma), "12.5");
+  EXPECT_EQ(Entered("12.5", kMedium, kComma), "12.5");
+  // Elsewhere a comma groups digits, and to take it for the point would change the number.
+  EXPECT_EQ(Entered("1,000", kLength, kPoint), "nothing");
+  EXPECT_EQ(Entered("1.000,5", kLength, kComma), "nothing");
+}
+
+TEST_F(WhatFieldsCanBeGiven, TakesNothingForWhatIsNoNumber) {
+  for (const char* typed :
+       {"", " ", "-", ".", "-.", "--5", "5-", "1e3", "x", "1.2.3", "12x", "+5"}) {
+    EXPECT_EQ(Entered(typed, kMedium), "nothing") << typed;
+  }
+}
+
+TEST_F(WhatFieldsCanBeGiven, CutsANumberToTheLimits) {
+  EXPECT_EQ(Entered("115", kMedium), "115");
+  EXPECT_EQ(Entered("115.1", kMedium), "115");
+  EXPECT_EQ(Entered("-50", kMedium), "-50");
+  EXPECT_EQ(Entered("-51", kMedium), "-50");
+  EXPECT_EQ(Entered("99999999999999999999", kMedium), "115");
+  EXPECT_EQ(Entered("5", kDiameter), "6");
+  EXPECT_EQ(Entered("916", kDiameter), "915");
+  EXPECT_EQ(Entered("-1", kLength), "0");
+  EXPECT_EQ(Entered("10001", kLength), "10000");
+}
+
+TEST_F(WhatFieldsCanBeGiven, TakesTheNearestEntryWhereThereIsNothingElse) {
+  EXPECT_EQ(Entered("28", kTableTemperature), "28");
+  EXPECT_EQ(Entered("33", kTableTemperature), "35");
+  EXPECT_EQ(Entered("-100", kTableTemperature), "-20");
+  EXPECT_EQ(Entered("81", kHumidity), "80");
+  EXPECT_EQ(Entered("100", kHumidity), "95");
+}
+
+TEST_F(WhatFieldsCanBeGiven, IsFoundByTheFirstLettersAndElseByNearness) {
+  EXPECT_EQ(Place("2", kDiameter), "21");
+  EXPECT_EQ(Place("27", kDiameter), "27");
+  EXPECT_EQ(Place("22", kDiameter), "21");
+  EXPECT_EQ(Place("220", kDiameter), "219");
+  EXPECT_EQ(Place("-", kMedium), "-40");
+  EXPECT_EQ(Place("", kMedium), "-40");
+  // Where the nearest entry is what is taken, it is what is found.
+  EXPECT_EQ(Place("3", kTableTemperature), "2");
+}
+
+TEST_F(WhatFieldsCanBeGiven, IsReachedByClicksFromEveryEntryOfALockedField) {
+  program_.Click(warmt_.cmdToolBarC);
+  for (const InputRow& row : {kTableTemperature, kHumidity}) {
+    const Choices choices = Of(row);
+    for (const Choice& from : choices.entries) {
+      for (const Choice& to : {choices.entries.front(), choices.entries.back(), from}) {
+        for (const std::string& goal : {from.text, to.text}) {
+          const int clicks = Clicks_To(warmt_, row, goal);
+          for (int i = 0; i < std::abs(clicks); ++i) {
+            clicks < 0 ? program_.Down(warmt_.SpinButton1(row.index))
+                       : program_.Up(warmt_.SpinButton1(row.index));
+          }
+          EXPECT_EQ(warmt_.txtC(row.index).Text(), goal);
+        }
+      }
+    }
+  }
+}
+
+TEST_F(WhatFieldsCanBeGiven, NeedsNoClicksForTheEntryThatStandsThere) {
+  program_.Click(warmt_.cmdToolBarC);
+  EXPECT_EQ(Clicks_To(warmt_, kTableTemperature, warmt_.txtC(1).Text()), 0);
+  EXPECT_EQ(Clicks_To(warmt_, kHumidity, "65"), 1);
+  EXPECT_EQ(Clicks_To(warmt_, kHumidity, "30"), -6);
+}
+
+}  // namespace
+}  // namespace norvane
