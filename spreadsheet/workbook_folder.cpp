@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* kBegin = "norvane-";
 constexpr std::size_t kNameSize = 8 + 32;
-constexpr std::time_t kWeek = 7 * 24 * 60 * 60;
+constexpr std::time_t kWeek = std::time_t{7} * 24 * 60 * 60;
 
 bool Is_Left_Alone(const fs::path& path) {
   struct stat status {};
