@@ -31,6 +31,7 @@ class About : public Form {
 };
 
 /// Shows the splash screen in the middle of the screen.
+/// @param module1 of the program
 void Show_Splash(Module1& module1);
 
 }  // namespace norvane

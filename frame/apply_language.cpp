@@ -90,7 +90,7 @@ void Set_Main_Fonts(Module1& module1, Warmt& warmt) {
   warmt.Label0.Set_Font(normal);
   warmt.Label6.Set_Font(normal);
   Font thickness = normal;
-  thickness.bold = module1.Tool_Sel[2] == 1;
+  thickness.bold = module1.Tool_Sel[kModeGroup] == 1;
   warmt.Label1(2).Set_Font(thickness);
   warmt.Label10.Set_Font(large);
   for (CaptionField& entry : warmt.lblMenu) entry.Set_Font(large);

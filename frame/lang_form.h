@@ -20,6 +20,7 @@ class Lang : public Form {
 
   /// Changes the language to that of a slot, and asks first when that costs saved lines; the answer
   /// doesn't stop the change.
+  /// @param TheLanNr the slot
   void Select_Language(std::int16_t TheLanNr);
 
   FieldArray<CaptionField> Label2{*this, "Label2", 0, 19};  ///< names of the languages
@@ -37,6 +38,7 @@ class Lang : public Form {
 };
 
 /// Shows the dialog in the middle of the screen.
+/// @param module1 of the program
 void Show_Lang_Dialog(Module1& module1);
 
 }  // namespace norvane

@@ -23,14 +23,17 @@ class Program {
 
   /// Carries out what the user does. Returns why it was refused, when it is something that a user
   /// could not do; nothing has happened then.
+  /// @param event on any form, also one that a user could not reach
   std::optional<std::string> Dispatch(const UserEvent& event);
 
   /// A tick of a timer; nothing when the timer is disabled, or while the start or an event is being
   /// carried out.
+  /// @param timer of a form of this program
   void Tick(TickTimer& timer);
 
   /// Runs a procedure that no event reaches in the way an event is carried out. What it throws ends
   /// the program with a message: a runtime error's own, or 7 and 51 for what C++ throws.
+  /// @param procedure that may end the program
   void Run(const std::function<void()>& procedure);
 
   bool Ended() const { return module1_.desk.Ended(); }

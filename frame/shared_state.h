@@ -22,6 +22,9 @@ class Settings;
 class Total;
 class Warmt;
 
+/// The groups of the toolbar's buttons.
+enum ToolGroup { kTotalGroup, kKindGroup, kModeGroup, kAlphaGroup, kLambdaGroup, kSavingGroup };
+
 /// The forms of a program, each made at its first reference.
 struct Forms {
   explicit Forms(struct Module1& module1);
@@ -65,20 +68,28 @@ struct Module1 {
 
   /// The Windows character set of a slot's language, as its fonts are given it; 0 where it has
   /// none. Throws `RuntimeError` 13 when it is no number, 6 when it is beyond 16 bits.
+  /// @param slot of a language that was read
   int Font_Charset(int slot) const;
 
   /// The character set that a slot's texts are read by: 0 where its fonts are refused theirs.
+  /// @param slot of a language that was read
   int Text_Charset(int slot) const;
   /// That of the current language.
   int Text_Charset() const { return Text_Charset(Lang_Index); }
   /// That of what a field shows: its font's, or else the current language's.
+  /// @param field of any form
   int Text_Charset(const Field& field) const;
 
   /// Shows the user a message in the current language's character set, and waits for the answer.
+  /// @param title over the box
+  /// @param text in bytes of that character set
+  /// @param icon beside it
+  /// @param buttons to answer by
   MessageAnswer Message(const std::string& title, const std::string& text, MessageIcon icon,
                         MessageButtons buttons);
 
   /// A text of the current language; empty where the language lacks it.
+  /// @param id a numbered text
   const std::string& Text(TextId id) const { return languages.Text(Lang_Index, id); }
 
   Platform& platform;
@@ -95,7 +106,7 @@ struct Module1 {
   std::int16_t Mtrs = 0;      ///< m of pipe, m2 of sheet
   std::int16_t Sel_Size = 0;  ///< the kind of object, see `Kind`
 
-  /// The pressed button of each toolbar group; group 2 is the mode, 0 heat loss, 1 condensation.
+  /// The pressed button of each toolbar group; of the modes 0 is heat loss, 1 condensation.
   std::array<std::int16_t, 6> Tool_Sel{};
 
   /// Header line, saved lines, and an empty spare element; without elements it doesn't exist.

@@ -22,6 +22,7 @@ inline constexpr TextId kLanguageTexts[] = {
 };
 
 /// The text that names a kind of object.
+/// @param kind a `Kind`
 constexpr TextId Kind_Name_Text(std::int16_t kind) {
   switch (kind) {
     case kSteelPipe:
@@ -36,6 +37,7 @@ constexpr TextId Kind_Name_Text(std::int16_t kind) {
 }
 
 /// The text with the unit of its heat flow: per metre, of a sheet per square metre.
+/// @param kind a `Kind`
 constexpr TextId Heat_Flow_Unit_Text(std::int16_t kind) {
   return kind == kSheet ? TextId::kSheetHeatFlowUnit : TextId::kHeatFlowUnit;
 }

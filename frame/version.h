@@ -16,6 +16,7 @@ struct Version {
 inline constexpr Version kRelease{3, 1, 0};
 
 /// Title and version as the screens show them; a revision of 0 is left out.
+/// @param version of three numbers
 std::string Title_And_Version(const Version& version);
 
 }  // namespace norvane

@@ -74,10 +74,10 @@ void Require_Chosen(FieldArray<Button>& buttons, int chosen) {
 }
 
 void Require_Toolbar(const Module1& module1, Warmt& w, bool heat) {
-  Require(module1.Tool_Sel[1] == module1.Sel_Size, "the button of the kind");
-  Require(module1.Tool_Sel[2] == (heat ? 0 : 1), "the button of the mode");
-  Require_Chosen(w.cmdToolBar1, module1.Tool_Sel[1]);
-  Require_Chosen(w.cmdToolBar4, module1.Tool_Sel[4]);
+  Require(module1.Tool_Sel[kKindGroup] == module1.Sel_Size, "the button of the kind");
+  Require(module1.Tool_Sel[kModeGroup] == (heat ? 0 : 1), "the button of the mode");
+  Require_Chosen(w.cmdToolBar1, module1.Tool_Sel[kKindGroup]);
+  Require_Chosen(w.cmdToolBar4, module1.Tool_Sel[kLambdaGroup]);
   Require((w.cmdToolBarT.Picture() == ButtonPicture::kChosen) == heat, "the chosen mode");
   Require((w.cmdToolBarC.Picture() == ButtonPicture::kChosen) == !heat, "the chosen mode");
   Require(w.Picture2.Picture() >= 1 && w.Picture2.Picture() <= 20, "there are twenty pictures");

@@ -44,9 +44,9 @@ void Warmt::Init_toolbar() {
   LblTooltip.Set_Place({label.left, 0, label.width, label.height});
   picToolTip.Set_Place({0, 0, label.width + 100, label.height});
   // Other values than the first presses select, so that each of those swaps its pictures.
-  module1_.Tool_Sel[1] = 1;
-  module1_.Tool_Sel[2] = 1;
-  module1_.Tool_Sel[4] = 0;
+  module1_.Tool_Sel[kKindGroup] = 1;
+  module1_.Tool_Sel[kModeGroup] = 1;
+  module1_.Tool_Sel[kLambdaGroup] = 0;
 }
 
 void Warmt::Fill_Dew_Point_Arrays() {

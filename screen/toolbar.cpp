@@ -10,13 +10,6 @@
 namespace norvane {
 namespace {
 
-constexpr int kTotalGroup = 0;
-constexpr int kKindGroup = 1;
-constexpr int kModeGroup = 2;
-constexpr int kAlphaGroup = 3;
-constexpr int kLambdaGroup = 4;
-constexpr int kSavingGroup = 5;
-
 // The texts that the tooltips show, by group and button.
 constexpr TextId kTooltips[][4] = {
     {TextId::kShowTotals},

@@ -48,6 +48,7 @@ struct Compared {
 std::vector<Choice> Usual_Choices();
 
 /// A row for each choice, in their order.
+/// @param request the object, what it is compared with, and the prices
 std::vector<Compared> Compare(const CompareRequest& request);
 
 }  // namespace norvane

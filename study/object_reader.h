@@ -17,6 +17,9 @@ class ObjectReader {
  public:
   /// `header` holds the names as fields, `decimal` is the decimal sign of the rows. Columns that
   /// the question doesn't ask for aren't read.
+  /// @param header the names, a field each
+  /// @param decimal '.' or ','
+  /// @param question whose columns are read
   ObjectReader(std::span<const std::string_view> header, char decimal, Question question);
 
   /// What makes the header unusable, in words: a required column that is missing, or one that
@@ -27,9 +30,12 @@ class ObjectReader {
 
   std::size_t Field_Count() const { return columns_.size(); }
   /// The column of a field of the rows, null for one that isn't read.
+  /// @param field from 0, below `Field_Count`
   const Column* Column_Of(std::size_t field) const { return columns_[field]; }
 
   /// Reads the fields of a row into `object`, of its usual values to begin with.
+  /// @param fields as many as the header has, or the row has a reason
+  /// @param object keeps its usual values where a field is empty
   std::optional<Reason> Read(std::span<const std::string_view> fields, Object& object) const;
 
  private:

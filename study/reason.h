@@ -26,6 +26,7 @@ struct Reason {
 };
 
 /// The reason in words, such as "medium_C is above 115".
+/// @param reason with its column and limit
 std::string Words(const Reason& reason);
 
 }  // namespace norvane

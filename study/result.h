@@ -14,13 +14,16 @@ namespace norvane {
 
 /// What the medium loses or gains through the bare and the insulated object, by the rules of the
 /// main screen but for the decimals. What its fields wouldn't take has a reason instead.
+/// @param object in degrees Celsius, millimetres and the units of its names
 std::variant<HeatLossResult, Reason> Heat_Loss_Of(const Object& object);
 
 /// The least thickness without condensation. Air that the dew-point table doesn't hold has a reason
 /// instead, where the main screen, which steps through the table, shows 0.0.
+/// @param object whose humidity is read, and not its thickness
 std::variant<CondensResult, Reason> Condensation_Of(const Object& object);
 
 /// The numbers that `Heat_Loss` takes of an object: metres and square metres, singles.
+/// @param object inside the limits of its columns
 HeatFlowInput Flow_Input(const Object& object);
 
 /// A result column: its name with the unit, and the decimals that the main screen shows.

@@ -17,6 +17,8 @@ class ShownSum {
   void Add(std::int64_t shown);
   void Add(const ShownSum& other);
   /// As `Write_Shown` writes a count.
+  /// @param decimals 0 to `kMostDecimals`
+  /// @param decimal_separator the sign before the decimals
   std::string Text(int decimals, char decimal_separator) const;
   bool operator==(const ShownSum&) const = default;
 
@@ -49,9 +51,11 @@ struct ScheduleResult {
 };
 
 /// Pipes and sheets mixed, each for itself.
+/// @param objects in the order of the rows
 ScheduleResult Schedule(std::span<const Object> objects);
 
 /// One object of it.
+/// @param object a pipe or a sheet
 ScheduleRow Schedule_Row(const Object& object);
 
 }  // namespace norvane

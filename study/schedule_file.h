@@ -29,18 +29,25 @@ struct ScheduleFileProblem {
 
 /// An empty schedule with the columns of a question. Numbers are written with `decimal`, and with
 /// semicolons between them when that is a comma.
+/// @param question whose columns it has
+/// @param decimal the decimal sign, '.' or ','
 ScheduleFile New_Schedule(Question question, char decimal);
 
 /// Reads a whole file. Rows may be shorter than the header or longer; lines without a field are
 /// passed over. A header without the columns that are needed, and bytes that are no UTF-8, are
 /// problems.
+/// @param bytes of the file, a mark of UTF-8 in front of them or not
+/// @param question whose columns are needed
 std::variant<ScheduleFile, ScheduleFileProblem> Read_Schedule(std::string_view bytes,
                                                               Question question);
 
 /// The bytes of the file; reading them gives the same schedule.
+/// @param schedule whose dialect is kept
 std::string Write_Schedule(const ScheduleFile& schedule);
 
 /// The objects of its rows, or why they can't be read.
+/// @param schedule with the columns of the question
+/// @param question whose columns are read
 std::vector<std::variant<Object, Reason>> Objects_Of(const ScheduleFile& schedule,
                                                      Question question);
 

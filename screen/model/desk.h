@@ -36,6 +36,7 @@ class Desk {
 
   /// A form was created, or is thrown away. A form that was thrown away lives on until
   /// `Forget_Unloaded`, since the handler that unloaded it may be its own.
+  /// @param form that was created, or that is thrown away
   void Loaded(Form& form);
   void Unload(std::unique_ptr<Form> form);
   void Forget_Unloaded();
@@ -47,6 +48,7 @@ class Desk {
   /// form that is then in front.
   Field* Focus() const { return focus_; }
   /// Throws `RuntimeError` 5 when the user can't see the field.
+  /// @param field of a form that is shown
   void Set_Focus(Field& field);
 
   /// No form takes events any more.

@@ -109,8 +109,10 @@ class Field {
 
   /// Why the user can't do this to the field, which he sees, in free words; nothing when he can.
   /// A kind of field overrides it for the actions that are its own.
+  /// @param event whose field this is
   virtual std::optional<std::string> Reason_To_Refuse(const UserEvent& event) const;
   /// Does what the user does. The event isn't one to refuse.
+  /// @param event whose field this is
   virtual void Carry_Out(const UserEvent& event);
   /// Whether the focus goes where the user acts.
   virtual bool Takes_Focus() const { return true; }

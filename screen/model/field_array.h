@@ -19,6 +19,7 @@ class FieldArray {
   }
 
   /// Throws `RuntimeError` 9 for an element that the array doesn't have.
+  /// @param index `first` to `last`
   T& operator()(int index) {
     if (index < first_ || index > UBound()) {
       throw RuntimeError(RuntimeError::kSubscriptOutOfRange);

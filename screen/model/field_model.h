@@ -18,6 +18,7 @@ class TextField : public Field {
 
   /// The change rule: a text that differs raises `On_Change` inside the assignment, an equal one
   /// raises nothing, whoever assigns.
+  /// @param text in the code page of its language
   void Set_Text(const std::string& text);
 
   bool Locked() const { return locked_; }
@@ -73,6 +74,7 @@ class SpinField : public Field {
   using Field::Field;
 
   /// One step up (1) or down (-1).
+  /// @param direction 1 or -1
   virtual void Step(int direction) = 0;
 
   std::optional<std::string> Reason_To_Refuse(const UserEvent& event) const override;
@@ -99,6 +101,7 @@ class Stepper : public SpinField {
 
   const TextField& Buddy() const { return buddy_; }
   /// From the field's value rounded to 16 bits, cut to the range.
+  /// @param direction 1 or -1
   void Step(int direction) override;
 
  private:
@@ -158,6 +161,7 @@ class ListField : public Field {
   /// The chosen item from 0, or -1.
   int ListIndex() const { return list_index_; }
   /// Chooses an item and raises Click. Throws `RuntimeError` 5 for an index that isn't there.
+  /// @param index from 0
   void Set_ListIndex(int index);
 
   /// The chosen item's text, empty without one.
@@ -178,6 +182,7 @@ class Tabs : public Field {
 
   int Tab() const { return tab_; }
   /// Brings a tab to the front, and raises Click when it wasn't there.
+  /// @param tab from 0
   void Set_Tab(int tab);
 
   int Count() const { return static_cast<int>(captions_.size()); }

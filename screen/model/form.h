@@ -62,10 +62,13 @@ class Form {
   void Hide();
 
   /// Whether the user can see the field: itself, its panel, and its tab in front.
+  /// @param field one of the form's own
   bool Shows(const Field& field) const;
 
   const std::vector<Field*>& Fields() const { return fields_; }
   /// The field of that name and index, or null.
+  /// @param name such as `Label4`, case and all
+  /// @param index of a control array, or `Field::kNoIndex`
   Field* Find(const std::string& name, int index) const;
 
   /// The tabs that `Field::on_tab` counts, on a form that has them.

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "data/text.h"
 #include "frame/text_id.h"
 
 namespace norvane {
@@ -69,12 +70,6 @@ std::map<int, std::string> Texts(const std::string& code) {
   std::map<int, std::string> texts;
   for (const std::string& line : Text_Lines(code)) texts[Number_Of(line)] = Text_Of(line);
   return texts;
-}
-
-std::string Lower(std::string text) {
-  std::ranges::transform(text, text.begin(),
-                         [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return text;
 }
 
 TEST(LanguageFolder, Holds_The_Fourteen_Languages_And_No_Other) {

@@ -97,7 +97,7 @@ TEST_F(TheLanguage, GivesItsFontToTheMainScreen) {
   EXPECT_EQ(warmt_.Label10.Font(), large);
   Has_Font(warmt_.lblMenu, large);
   EXPECT_EQ(warmt_.LblTooltip.Font(), (Font{"Verdana", 8, false, 204}));
-  program_.State().Tool_Sel[2] = 1;
+  program_.State().Tool_Sel[kModeGroup] = 1;
   Apply();
   EXPECT_EQ(warmt_.Label1(2).Font(), (Font{"Verdana", 9, true, 204}));
 }
