@@ -10,6 +10,8 @@ inline constexpr QColor kAccent(105, 176, 17);
 inline constexpr QColor kAccentLine(82, 146, 8);
 inline constexpr QColor kAccentLight(151, 207, 70);
 inline constexpr QColor kAccentDark(58, 108, 6);
+/// Words on the green, under every theme of the desktop.
+inline constexpr QColor kInkOnAccent(14, 26, 2);
 
 /// The ground of the splash screen and of the list of languages, from top to foot; light under
 /// every theme of the desktop.

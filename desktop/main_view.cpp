@@ -8,6 +8,7 @@
 #include "desktop/desktop.h"
 #include "desktop/input_card.h"
 #include "desktop/object_card.h"
+#include "desktop/own_commands.h"
 #include "desktop/result_card.h"
 #include "desktop/tool_strip.h"
 
@@ -19,7 +20,8 @@ MainView::MainView(Desktop& desktop, Warmt& warmt)
       tools_(new ToolStrip(*this, warmt)),
       inputs_(new InputCard(*this, warmt)),
       results_(new ResultCard(*this, warmt)),
-      object_(new ObjectCard(*this, warmt)) {
+      object_(new ObjectCard(*this, warmt)),
+      commands_(new OwnCommands(desktop)) {
   auto* page = new QVBoxLayout(this);
   page->setContentsMargins(0, 6, 0, 0);
   page->setSpacing(10);
@@ -68,6 +70,9 @@ QWidget* MainView::Make_Foot() {
   constexpr int kBandHeight = 26;
   auto* band = new QLabel;
   band->setFixedHeight(kBandHeight);
+  auto* row = new QHBoxLayout(band);
+  row->setContentsMargins(kMargin, 0, kMargin, 0);
+  row->addWidget(commands_);
   Bind<CaptionBinder>(warmt_.Label5, *band);
   return band;
 }
@@ -84,6 +89,7 @@ void MainView::Arrange() {
   inputs_->Name_Fields();
   object_->Name_Fields();
   tools_->Name_Buttons();
+  commands_->Follow_Language();
   const Button& mode = warmt_.Calc_Mode == "T" ? warmt_.cmdToolBarT : warmt_.cmdToolBarC;
   results_->Name_Values(desktop().Text(warmt_.Tooltip_Of(mode)));
 }

@@ -9,11 +9,12 @@ namespace norvane {
 
 class InputCard;
 class ObjectCard;
+class OwnCommands;
 class ResultCard;
 class ToolStrip;
 
 /// The main screen: menu labels and toolbar strip on top, input rows beside the insulated object,
-/// the results below, the green band at the foot.
+/// the results below, the green band with the front end's own commands at the foot.
 class MainView : public FormView {
   Q_OBJECT
 
@@ -34,6 +35,7 @@ class MainView : public FormView {
   InputCard* inputs_;
   ResultCard* results_;
   ObjectCard* object_;
+  OwnCommands* commands_;
 };
 
 }  // namespace norvane
