@@ -73,7 +73,7 @@ bool Take_Thicknesses(Options& options, const std::string& value) {
   std::vector<std::string_view> items;
   Split_Row(value, ',', items);
   for (const std::string_view item : items) {
-    Choice choice;
+    Insulation choice;
     const std::size_t equals = item.find('=');
     if (!Read_Number(item.substr(0, equals), '.', choice.thickness_mm)) return false;
     if (equals != std::string_view::npos) {

@@ -27,7 +27,7 @@ struct Options {
   bool write_header = true;
   bool quiet = false;
   int threads = 0;  ///< 0 for as many as there are cores
-  std::vector<Choice> choices;
+  std::vector<Insulation> choices;
   std::optional<EnergyPrice> energy;
   double years = 10;
 };

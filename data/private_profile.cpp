@@ -83,6 +83,24 @@ std::optional<std::string> Get_Private_Profile_String(std::string_view file,
   return std::string(Bare(text.substr(text.find('=') + 1)));
 }
 
+std::vector<std::string> Private_Profile_Keys(std::string_view file, std::string_view section) {
+  std::vector<std::string> keys;
+  bool in_section = false;
+  for (std::size_t at = 0; at < file.size();) {
+    const Line line = Line_At(file, at);
+    at = line.next;
+    const std::string_view text = file.substr(line.begin, line.end - line.begin);
+    if (const auto name = Section_Name(text)) {
+      if (in_section) break;
+      in_section = Same_Name(*name, section);
+      continue;
+    }
+    const std::size_t equals = text.find('=');
+    if (in_section && equals != text.npos) keys.emplace_back(Bare(text.substr(0, equals)));
+  }
+  return keys;
+}
+
 std::string Write_Private_Profile_String(std::string_view file, std::string_view section,
                                          std::string_view key, std::string_view value) {
   const Found found = Find(file, section, key);

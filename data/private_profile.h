@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace norvane {
 
@@ -16,6 +17,11 @@ namespace norvane {
 std::optional<std::string> Get_Private_Profile_String(std::string_view file,
                                                       std::string_view section,
                                                       std::string_view key);
+
+/// The names of the keys of a section, in their order and as they are spelled.
+/// @param file its bytes
+/// @param section its name, without brackets
+std::vector<std::string> Private_Profile_Keys(std::string_view file, std::string_view section);
 
 /// The file with the key set. Every other byte stays. A key that is there keeps its spelling and
 /// place; a new one goes behind the last line of its section that isn't empty, a new section to the

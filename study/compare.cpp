@@ -23,7 +23,7 @@ Fuels Saved_Fuels(const Savings& savings) {
   return {savings.gas, savings.oil, savings.electricity};
 }
 
-void Value(const CompareRequest& request, const Choice& choice, const HeatFlowInput& input,
+void Value(const CompareRequest& request, const Insulation& choice, const HeatFlowInput& input,
            const HeatLossResult& result, Compared& row) {
   if (!request.energy) return;
   if (result.savings) row.money_per_year = Price_Of(Saved_Fuels(*result.savings), *request.energy);
@@ -50,8 +50,8 @@ void Mark_Economic(std::vector<Compared>& rows) {
 
 }  // namespace
 
-std::vector<Choice> Usual_Choices() {
-  std::vector<Choice> choices;
+std::vector<Insulation> Usual_Choices() {
+  std::vector<Insulation> choices;
   for (const std::int16_t step : Thick_Steps()) choices.push_back({static_cast<double>(step), {}});
   constexpr int kStep = 10;
   for (int mm = Thick_Steps().back() + kStep; mm <= kMostThickness; mm += kStep) {
@@ -64,7 +64,7 @@ std::vector<Compared> Compare(const CompareRequest& request) {
   std::vector<Compared> rows;
   rows.reserve(request.choices.size());
   Object object = request.object;
-  for (const Choice& choice : request.choices) {
+  for (const Insulation& choice : request.choices) {
     object.thickness_mm = choice.thickness_mm;
     Compared& row =
         rows.emplace_back(Compared{choice.thickness_mm, Heat_Loss_Of(object), {}, {}, {}});

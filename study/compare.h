@@ -18,17 +18,20 @@ struct EnergyPrice {
   double per_unit = 0;
 };
 
+/// Over how many years insulation is paid off, when nothing else is said.
+inline constexpr double kUsualYears = 10;
+
 /// A thickness to compare, and what it costs to insulate a metre or a square metre with it.
-struct Choice {
+struct Insulation {
   double thickness_mm = 0;
   std::optional<double> cost;
 };
 
 struct CompareRequest {
   Object object;  ///< its thickness isn't read; a year is its `days`
-  std::vector<Choice> choices;
+  std::vector<Insulation> choices;
   std::optional<EnergyPrice> energy;
-  double years = 10;  ///< over which the insulation is paid off
+  double years = kUsualYears;  ///< over which the insulation is paid off
 };
 
 /// What a choice is worth. Money is that of the prices; without them, or where nothing is saved or
@@ -45,7 +48,7 @@ struct Compared {
 
 /// The thicknesses that are compared when none are named: the steps of the main screen's arrows,
 /// and on in tens to the most that its field takes.
-std::vector<Choice> Usual_Choices();
+std::vector<Insulation> Usual_Choices();
 
 /// A row for each choice, in their order.
 /// @param request the object, what it is compared with, and the prices

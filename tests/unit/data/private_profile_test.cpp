@@ -161,5 +161,11 @@ TEST(AWrite, IsWhatALaterReadFinds) {
   }
 }
 
+TEST(Keys, AreThoseOfTheFirstSectionOfTheName) {
+  const std::string file = "a=1\n[Pipe]\n 13 =4\r\n; 9\n\nX=\n[Sheet]\n50=1\n[pipe]\n20=2\n";
+  EXPECT_EQ(Private_Profile_Keys(file, "PIPE"), (std::vector<std::string>{"13", "X"}));
+  EXPECT_TRUE(Private_Profile_Keys(file, "Roof").empty());
+}
+
 }  // namespace
 }  // namespace norvane

@@ -113,7 +113,7 @@ TEST(Compare, GivesAChoiceThatTheFieldWouldNotTakeItsReason) {
 
 TEST(Compare, UsuallyTakesTheStepsOfTheArrowsAndGoesOnInTens) {
   std::vector<double> thicknesses;
-  for (const Choice& choice : Usual_Choices()) thicknesses.push_back(choice.thickness_mm);
+  for (const Insulation& choice : Usual_Choices()) thicknesses.push_back(choice.thickness_mm);
   EXPECT_EQ(thicknesses,
             (std::vector<double>{6, 9, 13, 15, 20, 25, 30, 40, 50, 60, 70, 80, 90, 100}));
 }
