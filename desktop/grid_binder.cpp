@@ -18,8 +18,6 @@ namespace {
 // The columns that hold words; numbers stand in all others.
 constexpr int kLastWordColumn = 2;
 
-constexpr int kNarrowestColumn = 300;  // twips
-
 /// The rows of the selection, from the one where it began to the one where it ends.
 std::pair<int, int> Selected_Rows(const QTableView& table) {
   const QModelIndexList rows = table.selectionModel()->selectedRows();
@@ -82,15 +80,6 @@ GridBinder::GridBinder(FormView& view, Grid& field, RowTable& table)
       table_(table),
       model_(field, [this](const std::string& bytes) { return Shown(bytes); }) {
   table.setModel(&model_);
-  table.setSelectionBehavior(QAbstractItemView::SelectRows);
-  table.setSelectionMode(QAbstractItemView::ContiguousSelection);
-  table.verticalHeader()->hide();
-  table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  table.horizontalHeader()->setMinimumSectionSize(To_Pixels(kNarrowestColumn));
-  // All rows are picked whole; captions that turn bold for that would outgrow their columns.
-  table.horizontalHeader()->setHighlightSections(false);
-  table.setAlternatingRowColors(true);
-  table.setWordWrap(false);
   QObject::connect(&table, &RowTable::Picked, &table, [this] { Pick(); });
   QObject::connect(&table, &RowTable::Copy_Asked, &table, [this] { Copy(); });
 }
@@ -101,8 +90,17 @@ void GridBinder::Show_Field() {
   // Widths that the user has dragged stay while the columns do.
   if (std::exchange(columns_shown_, field_.Cols()) != field_.Cols()) Size_Columns();
   table_.verticalHeader()->setDefaultSectionSize(table_.fontMetrics().height() + 8);
+  Mark_Rows();
+}
+
+void GridBinder::Mark_Rows() {
   table_.clearSelection();
-  if (field_.Row() > 0) table_.setCurrentIndex(model_.index(field_.Row() - 1, 0));
+  if (field_.Row() == 0) return;
+  const auto [low, high] = std::minmax({field_.Row(), field_.RowSel()});
+  QItemSelectionModel& marked = *table_.selectionModel();
+  const QItemSelection rows(model_.index(low - 1, 0), model_.index(high - 1, 0));
+  marked.select(rows, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  marked.setCurrentIndex(model_.index(field_.RowSel() - 1, 0), QItemSelectionModel::NoUpdate);
 }
 
 void GridBinder::Size_Columns() {
@@ -128,7 +126,11 @@ void GridBinder::Size_Columns() {
 
 void GridBinder::Pick() {
   const auto [from, to] = Selected_Rows(table_);
-  if (from >= 0) Send(UserAction::kPickRows, from + 1, to + 1);
+  if (from >= 0) {
+    Send(UserAction::kPickRows, from + 1, to + 1);
+  } else {
+    Send(UserAction::kClick);
+  }
 }
 
 void GridBinder::Copy() const {

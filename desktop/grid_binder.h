@@ -30,8 +30,8 @@ class GridModel : public QAbstractTableModel {
   std::function<QString(const std::string&)> shown_;
 };
 
-/// A grid as a table whose rows are picked by mouse or keyboard; letting the mouse go, or Delete,
-/// is the pick that the program hears of.
+/// A grid as a table whose rows are marked by mouse or keyboard; letting the mouse go, or Delete,
+/// is the pick that the program hears of. The rows that the program holds as picked are marked.
 class GridBinder : public Binder {
  public:
   GridBinder(FormView& view, Grid& field, RowTable& table);
@@ -43,6 +43,7 @@ class GridBinder : public Binder {
 
  private:
   void Size_Columns();
+  void Mark_Rows();
   void Pick();
   void Copy() const;
 

@@ -1,3 +1,5 @@
+#include "totals_test.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
@@ -8,57 +10,10 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "window_test.h"
-
 namespace norvane {
 namespace {
 
-/// The screen of the saved lines.
-class Totals : public WindowTest {
- protected:
-  Total& List() { return *State().forms.total; }
-  QTableView& Table() { return dynamic_cast<QTableView&>(Widget(List().grdResult)); }
-
-  /// Saves a line for each thickness.
-  void Add_Lines(const QStringList& thicknesses) {
-    for (const QString& thickness : thicknesses) {
-      Mark(Screen().txtT(2));
-      Type(thickness);
-      Click(Screen().cmdAdd);
-    }
-  }
-  void Open() {
-    Click(Screen().picTotal);
-    Wait_Until_Active(List());
-    Settle();
-  }
-  /// Rows are counted from 0, as the table does.
-  QPoint Place_Of(int row) {
-    const QRect cell = Table().visualRect(Table().model()->index(row, 1));
-    return Table().viewport()->mapTo(&View(List()), cell.center());
-  }
-  void Drag(int from, int to) {
-    QWindow* window = View(List()).windowHandle();
-    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, Place_Of(from));
-    QTest::mouseMove(window, Place_Of(to));
-    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, Place_Of(to));
-  }
-  void Wait_For_Message(std::size_t number) {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return watchdog.Messages().size() >= number; }, 2000));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return QApplication::activeModalWidget() == nullptr; }, 2000));
-    Settle();
-  }
-  /// The thicknesses of the lines that the table shows.
-  QStringList Shown_Thicknesses() {
-    constexpr int kThickness = 7;  // column
-    QStringList shown;
-    for (int row = 0; row < Table().model()->rowCount(); ++row) {
-      shown << Table().model()->index(row, kThickness).data().toString();
-    }
-    return shown;
-  }
-};
+class Totals : public TotalsTest {};
 
 TEST_F(Totals, The_Ways_To_It_Show_With_The_First_Line) {
   EXPECT_FALSE(Widget(Screen().picTotal).isVisible());

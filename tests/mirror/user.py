@@ -68,7 +68,7 @@ class User:
             "Lang": [self.press_language] * 5 + [self.press_button, self.close_window,
                                                  self.bring_forward, self.move],
             "Address": [self.press_button, self.close_window, self.bring_forward],
-            "Total": [self.drag_rows] * 4 + [self.close_window] + [self.bring_forward] * 2
+            "Total": [self.drag_rows] * 4 + [self.click_on_grid] * 2 + [self.close_window] + [self.bring_forward] * 2
             + [self.resize, self.move],
         }
         try:
@@ -242,6 +242,33 @@ class User:
 
         self.do([], lambda: self.session.move_to(*places[0]))
         self.do([f"rows Total.grdResult {first + 1} {last + 1}"], drag)
+
+    def click_on_grid(self):
+        """A click that marks no row."""
+        rows = int(self.session.wanted.raw["Total.grdResult.Rows"]) - 1
+        table = self.node("Total", "grdResult")
+        cells = [cell for cell in table.children if cell.role == accessible.TABLE_CELL]
+        captions = [cell for cell in table.children if cell.role in accessible.COLUMN_HEADER]
+        if rows < 1 or not cells or not captions:
+            return
+        left, top, width, height = self.session.program.place(table)
+        button = self.random.choice([1, 2, 3])
+        way = self.random.randrange(3)
+        if way == 0:
+            x, y = self.session.point_in(captions[1])
+        elif way == 1:
+            x, y = left + width // 2, top + height - 25
+            if y <= self.session.point_in(cells[-1])[1] + 20:
+                return
+        else:
+            row = self.random.randrange(rows)
+            x, y = self.session.point_in(cells[row * len(cells) // rows + 1])
+            if y >= top + height - 20:
+                return
+            button = self.random.choice([2, 3])
+        self.require_on_screen((x, y))
+        self.do([], lambda: self.session.move_to(x, y))
+        self.do(["click Total.grdResult"], lambda: self.screen.click(button))
 
     # The window manager
 

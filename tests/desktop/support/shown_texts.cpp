@@ -164,6 +164,8 @@ void Add_Texts(const QWidget& widget, std::vector<ShownText>& texts) {
   } else if (const auto* bar = qobject_cast<const QTabBar*>(&widget)) {
     Add_Tabs(*bar, texts);
   } else if (const auto* table = qobject_cast<const QTableView*>(&widget)) {
+    // One inside another shows cells of that once more, in their places.
+    if (qobject_cast<const QTableView*>(table->parentWidget()) != nullptr) return;
     Add_Captions(*table->horizontalHeader(), texts);
     Add_Cells(*table, texts);
   } else if (const auto* list = qobject_cast<const QListWidget*>(&widget)) {
