@@ -5,8 +5,9 @@ import re
 from accessible import BUTTONS, COMBO_BOX, LABEL, LIST, PAGE_TAB_LIST, TABLE, TEXTS
 
 SHAPES = {COMBO_BOX: "c", LABEL: "l", LIST: "i", PAGE_TAB_LIST: "p", TABLE: "g"}
-# What lies in them isn't a field: items, cells, the arrow of a field's picker.
-WHOLE = {COMBO_BOX, LIST, PAGE_TAB_LIST, TABLE, *TEXTS}
+# What lies in them isn't a field: items, cells, the arrow of a field's picker, the front end's own
+# commands in the band at the foot.
+WHOLE = {COMBO_BOX, LABEL, LIST, PAGE_TAB_LIST, TABLE, *TEXTS}
 
 
 def shape(node):
