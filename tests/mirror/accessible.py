@@ -1,22 +1,29 @@
 """Reads a program's windows through the accessibility bus, many questions at a time."""
 
+import os
 from dataclasses import dataclass, field
 
-import gi
-
-gi.require_version("Gio", "2.0")
-from gi.repository import Gio, GLib  # noqa: E402
+from wire import BUS, BUS_PATH, Connection
 
 ROOT = "/org/a11y/atspi/accessible/root"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
+TEXT = "org.a11y.atspi.Text"
 PROPERTIES = "org.freedesktop.DBus.Properties"
-PATIENCE = 20000  # milliseconds
-SCREEN = GLib.Variant("(u)", (0,))  # places count from the corner of the screen
-WHOLE = GLib.Variant("(ii)", (0, -1))
+OF_SCREEN = 0  # places count from the corner of the screen
 
 # States, by their bits.
 ACTIVE, CHECKED, EDITABLE, FOCUSED, SELECTED, SHOWING = 1, 4, 7, 12, 23, 25
 READ_ONLY = 43
+
+# Roles.
+APPLICATION, COMBO_BOX, LABEL, LIST, PAGE_TAB, PAGE_TAB_LIST = 75, 11, 29, 31, 37, 38
+TABLE, TABLE_CELL = 55, 56
+COLUMN_HEADER = {10, 57}
+TEXTS = {52, 61}  # spin button, text
+BUTTONS = {7, 43, 44, 62}  # check box, push button, radio button, toggle button
+LISTS = {LIST, TABLE}
+GROWING = {APPLICATION, *LISTS}  # they may be empty at first
+WITH_ITEMS = {COMBO_BOX, PAGE_TAB_LIST, *LISTS}
 
 
 @dataclass
@@ -27,10 +34,8 @@ class Node:
     role: int
     children: list = field(default_factory=list)
     name: str = ""
-    description: str = ""
     states: int = 0
     text: str = ""
-    place: tuple = (0, 0, 0, 0)
 
     def has(self, state):
         return bool(self.states >> state & 1)
@@ -41,54 +46,29 @@ class Node:
             yield from child.below()
 
 
-def property_of(path, interface, name):
-    return path, PROPERTIES, "Get", GLib.Variant("(ss)", (interface, name))
+def name_of(node):
+    return node.path, PROPERTIES, "Get", "ss", ACCESSIBLE, "Name"
+
+
+def children_of(path):
+    return path, ACCESSIBLE, "GetChildren"
 
 
 class Bus:
     """The accessibility bus of the session."""
 
     def __init__(self):
-        session = Gio.bus_get_sync(Gio.BusType.SESSION)
-        address = session.call_sync(
-            "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
-            None, None, Gio.DBusCallFlags.NONE, -1).unpack()[0]
-        self.connection = Gio.DBusConnection.new_for_address_sync(
-            address,
-            Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
-            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION,
-            None, None)
-
-    def ask(self, owner, questions):
-        """The answers to all (path, interface, member, arguments), None where there is none."""
-        answers = [None] * len(questions)
-        left = len(questions)
-
-        def take(connection, result, i):
-            nonlocal left
-            left -= 1
-            try:
-                answers[i] = connection.call_finish(result).unpack()[0]
-            except (GLib.Error, IndexError):
-                pass
-
-        for i, (path, interface, member, arguments) in enumerate(questions):
-            self.connection.call(owner, path, interface, member, arguments, None,
-                                 Gio.DBusCallFlags.NONE, PATIENCE, None, take, i)
-        context = GLib.MainContext.default()
-        while left:
-            context.iteration(True)
-        return answers
+        session = Connection(os.environ["DBUS_SESSION_BUS_ADDRESS"])
+        address = session.ask("org.a11y.Bus", [("/org/a11y/bus", "org.a11y.Bus", "GetAddress")])[0]
+        self.connection = Connection(address)
 
     def program(self, pid):
         """The name on the bus of the program with this process, or None."""
-        listed = self.ask("org.a11y.atspi.Registry", [(ROOT, ACCESSIBLE, "GetChildren", None)])[0]
-        for owner, _ in listed or []:
-            asked = [("/org/freedesktop/DBus", "org.freedesktop.DBus",
-                      "GetConnectionUnixProcessID", GLib.Variant("(s)", (owner,)))]
-            if self.ask("org.freedesktop.DBus", asked)[0] == pid:
-                return owner
-        return None
+        listed = self.connection.ask("org.a11y.atspi.Registry", [children_of(ROOT)])[0]
+        owners = [owner for owner, _ in listed or []]
+        processes = self.connection.ask(BUS, [
+            (BUS_PATH, BUS, "GetConnectionUnixProcessID", "s", owner) for owner in owners])
+        return next((owner for owner, process in zip(owners, processes) if process == pid), None)
 
 
 class Program:
@@ -96,68 +76,76 @@ class Program:
 
     def __init__(self, bus, owner):
         self.bus, self.owner = bus, owner
-        self.trees = {}  # by path; windows are made whole
+        self.root = Node(ROOT, APPLICATION)
 
     def ask(self, questions):
-        return self.bus.ask(self.owner, questions)
+        return self.bus.connection.ask(self.owner, questions)
+
+    def windows(self):
+        """All windows that show, as they are now."""
+        while self.has_grown():
+            pass
+        showing = [top for top in self.root.children if top.has(SHOWING)]
+        self.read([node for top in showing for node in told_of(top)])
+        return showing
+
+    def has_grown(self):
+        """Reads the tree and all states; whether there was another tree before."""
+        known = [self.root, *self.root.below()]
+        parents = [node for node in known if node.children or node.role in GROWING]
+        answers = self.ask([children_of(node.path) for node in parents]
+                           + [(node.path, ACCESSIBLE, "GetState") for node in known])
+        for node, (low, high) in zip(known, (state or (0, 0) for state in answers[len(parents):])):
+            node.states = low | high << 32
+        grown = []
+        for node, listed in zip(parents, answers):
+            paths = [path for _, path in listed or []]
+            if paths != [child.path for child in node.children]:
+                grown.append((node, paths))
+        for node, paths in grown:
+            before = {child.path: child for child in node.children}
+            node.children = [before.get(path) or self.grow(path) for path in paths]
+        return bool(grown)
 
     def grow(self, path):
         """The tree from a node on."""
-        role = self.ask([(path, ACCESSIBLE, "GetRole", None)])[0]
-        top = Node(path, role if role is not None else -1)
+        top = Node(path, -1)
         level = [top]
         while level:
-            listed = self.ask([(node.path, ACCESSIBLE, "GetChildren", None) for node in level])
-            parents = [(node, child[1]) for node, children in zip(level, listed)
-                       for child in children or []]
-            roles = self.ask([(path, ACCESSIBLE, "GetRole", None) for _, path in parents])
-            level = []
-            for (parent, path), role in zip(parents, roles):
-                level.append(Node(path, role if role is not None else -1))
-                parent.children.append(level[-1])
+            answers = self.ask([(node.path, ACCESSIBLE, "GetRole") for node in level]
+                               + [children_of(node.path) for node in level])
+            for node, role, listed in zip(level, answers, answers[len(level):]):
+                node.role = -1 if role is None else role
+                node.children = [Node(child, -1) for _, child in listed or []]
+            level = [child for node in level for child in node.children]
         return top
 
-    def windows(self, places=False):
-        """All windows that show, as they are now."""
-        paths = [child[1] for child in self.ask([(ROOT, ACCESSIBLE, "GetChildren", None)])[0] or []]
-        self.trees = {path: self.trees.get(path) or self.grow(path) for path in paths}
-        tops = list(self.trees.values())
-        self.read(tops)
-        showing = [top for top in tops if top.has(SHOWING)]
-        self.renew_lists(showing)
-        self.read([node for top in showing for node in top.below()])
-        return showing
-
-    def renew_lists(self, tops):
-        """Lists and tables have other items by and by."""
-        lists = [node for top in tops for node in top.below() if node.role in LISTS]
-        listed = self.ask([(node.path, ACCESSIBLE, "GetChildren", None) for node in lists])
-        for node, children in zip(lists, listed):
-            if [child[1] for child in children or []] != [child.path for child in node.children]:
-                node.children = self.grow(node.path).children
-
     def read(self, nodes):
+        """What they say."""
         texts = [node for node in nodes if node.role in TEXTS]
-        answers = self.ask(
-            [property_of(node.path, ACCESSIBLE, "Name") for node in nodes]
-            + [(node.path, ACCESSIBLE, "GetState", None) for node in nodes]
-            + [(node.path, "org.a11y.atspi.Text", "GetText", WHOLE) for node in texts])
-        for i, node in enumerate(nodes):
-            node.name = answers[i] or ""
-            low, high = answers[len(nodes) + i] or (0, 0)
-            node.states = low | high << 32
-        for node, text in zip(texts, answers[2 * len(nodes):]):
+        answers = self.ask([name_of(node) for node in nodes]
+                           + [(node.path, TEXT, "GetText", "ii", 0, -1) for node in texts])
+        for node, name in zip(nodes, answers):
+            node.name = name or ""
+        for node, text in zip(texts, answers[len(nodes):]):
             node.text = text or ""
 
+    def places(self, nodes):
+        """Left, top, width and height of each on the screen now, in pixels."""
+        return [place or (0, 0, 0, 0) for place in self.ask([
+            (node.path, "org.a11y.atspi.Component", "GetExtents", "u", OF_SCREEN)
+            for node in nodes])]
+
     def place(self, node):
-        """Left, top, width and height on the screen now, in pixels."""
-        node.place = self.ask([(node.path, "org.a11y.atspi.Component", "GetExtents", SCREEN)])[0]
-        return node.place
+        return self.places([node])[0]
 
 
-LISTS = {31, 55}  # list, table
-TEXTS = {52, 61}  # spin button, text
-BUTTONS = {7, 43, 44, 62}  # check box, push button, radio button, toggle button
-COMBO_BOX, LABEL, PAGE_TAB, PAGE_TAB_LIST, TABLE, LIST = 11, 29, 37, 38, 55, 31
-TABLE_CELL = 56
-COLUMN_HEADER = {10, 57}
+def told_of(top):
+    """The nodes below a window that say something: those in a list do unseen too."""
+    yield top
+    for child in top.children:
+        if child.role in WITH_ITEMS:
+            yield child
+            yield from child.below()
+        elif child.has(SHOWING):
+            yield from told_of(child)

@@ -22,7 +22,9 @@ class Screen:
     def __init__(self):
         self.display = display.Display()
         self.root = self.display.screen().root
-        self.root.change_attributes(event_mask=X.SubstructureNotifyMask | X.StructureNotifyMask)
+        # Programs send their answers to where the window manager listens.
+        self.root.change_attributes(event_mask=X.SubstructureNotifyMask
+                                    | X.StructureNotifyMask | X.PropertyChangeMask)
         # The window manager says what frame it would give to this window, which never shows.
         self.own = self.root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
         self.own.change_attributes(event_mask=X.PropertyChangeMask)
@@ -50,6 +52,8 @@ class Screen:
     def click(self, button=1):
         self.press(button)
         self.release(button)
+        # A press goes to the window manager first; keys that are struck sooner would overtake it.
+        self.hear_manager()
 
     def key(self, name, *held):
         """A key by the name of its sign, while others are held."""
@@ -89,6 +93,15 @@ class Screen:
             if owner and owner.value[0] == pid:
                 windows.append(window)
         return windows
+
+    def await_window(self, pid, title, patience):
+        """Whether a program gets a window of this title meanwhile."""
+        listed = self.atom("_NET_CLIENT_LIST")
+        while title not in map(self.title_of, self.windows_of(pid)):
+            if not self.wait_for(lambda e: e.type & 0x7F == X.PropertyNotify
+                                 and e.window.id == self.root.id and e.atom == listed, patience):
+                return False
+        return True
 
     def title_of(self, window):
         title = window.get_full_property(self.atom("_NET_WM_NAME"), self.atom("UTF8_STRING"))

@@ -54,15 +54,14 @@ class Session:
 
     def start(self):
         self.play("start")
-        end = time.monotonic() + PATIENCE
-        owner = None
-        while owner is None:
-            self.be_patient(end, "the program isn't on the bus")
-            owner = self.bus.program(self.process.pid)
-        self.program = accessible.Program(self.bus, owner)
-        while not self.screen.windows_of(self.process.pid):
-            self.be_patient(end, "no window comes")
         # The splash stands for three seconds.
+        title = self.model.get(["Warmt.Caption"])["Warmt.Caption"]
+        if not self.screen.await_window(self.process.pid, title, PATIENCE):
+            raise Difference([f"no window {title!r} comes"])
+        owner = self.bus.program(self.process.pid)
+        if owner is None:
+            raise Difference(["the program isn't on the bus"])
+        self.program = accessible.Program(self.bus, owner)
         self.compare()
 
     def be_patient(self, end, what):
@@ -76,13 +75,14 @@ class Session:
         self.script += lines
         return self.model.play(*lines)
 
-    def rest(self, rounds=1):
+    def rest(self):
         """Comes back when the program has dealt with all that was sent."""
-        for _ in range(rounds):
-            if self.process.poll() is None:
-                self.screen.rest(self.process.pid)
-                # The answer comes from the program's own loop, after what came in before.
-                self.program.ask([(accessible.ROOT, accessible.ACCESSIBLE, "GetState", None)])
+        if self.process.poll() is None:
+            self.screen.rest(self.process.pid)
+            # The window system's side answers before its events are dealt with, the bus's between
+            # two of them.
+            for _ in range(2):
+                self.program.ask([(accessible.ROOT, accessible.ACCESSIBLE, "GetState")])
 
     def hear(self, told):
         for line in told:
@@ -94,8 +94,6 @@ class Session:
                 self.end()
             elif not line.startswith("refused"):
                 raise Difference([f"the model prints {line!r}"])
-        if not self.ended:
-            self.rest(rounds=2)
 
     def box(self):
         """The message box in front, when it has come."""
@@ -162,12 +160,11 @@ class Session:
 
     def tell_sizes(self):
         """The sizes that the windows have got: those are the user's and his window manager's."""
-        for form in self.wanted.forms:
-            top = self.seen.tops.get(form)
-            if top is None or form == "About":
-                continue
-            width, height = (TWIPS * side for side in self.program.place(top)[2:])
-            raw = self.wanted.raw
+        raw = self.wanted.raw
+        forms = [form for form in self.wanted.forms if form in self.seen.tops and form != "About"]
+        places = self.program.places([self.seen.tops[form] for form in forms])
+        for form, (_, _, *size) in zip(forms, places):
+            width, height = (TWIPS * side for side in size)
             if (str(width), str(height)) != (raw[f"{form}.Width"], raw[f"{form}.Height"]):
                 self.play(f"resize {form} {width} {height}")
                 return True
@@ -179,7 +176,7 @@ class Session:
         while not self.ended:
             self.wanted = Wanted(self.model)
             try:
-                self.rest(rounds=2)
+                self.rest()
                 self.seen = Seen(self.program)
                 if self.tell_sizes():
                     continue

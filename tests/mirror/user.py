@@ -84,8 +84,9 @@ class User:
         self.screen.display.sync()
         self.session.hear(told)
 
-    def go_to(self, form, field):
-        """Moves the mouse over a field, past whatever lies there."""
+    def way_to(self, form, field):
+        """What the model is told of a move of the mouse over a field, and the point; what lies
+        over it is put away."""
         node = self.node(form, field)
         left, top, width, height = self.session.program.place(node)
         # The arrow of a field's picker has its left edge.
@@ -96,13 +97,16 @@ class User:
         self.require_on_screen((x, y))
         if field != "LblTooltip" and self.tip_covers(x, y):
             self.leave()
-        lines = [f"hover {form}.{field}"] if field in TOOLS else []
-        self.do(lines, lambda: self.session.move_to(x, y))
+        return [f"hover {form}.{field}"] if field in TOOLS else [], (x, y)
 
-    def click_on(self, form, field, line):
-        self.go_to(form, field)
-        if not self.session.ended:
-            self.do([line], self.screen.click)
+    def click_on(self, form, field, *lines):
+        ahead, point = self.way_to(form, field)
+
+        def click():
+            self.session.move_to(*point)
+            self.screen.click()
+
+        self.do([*ahead, *lines], click)
 
     def press_keys(self, line, *keys):
         def hands():
@@ -167,14 +171,15 @@ class User:
         if not count or not items:
             return
         item = self.random.randrange(items)
-        self.go_to("Warmt", "Combo1")
-        self.do([], self.screen.click)
+        self.click_on("Warmt", "Combo1")
+        self.session.rest()  # the list takes mouse and keys from the display when it has opened
         self.press_keys(None, "Home", *["Down"] * item)
         self.press_keys(f"choose Combo1 {item}", "Return")
 
     def hover(self):
         tool = self.random.choice(self.shown("Warmt", lambda kind, field: field in TOOLS))
-        self.go_to("Warmt", tool)
+        lines, point = self.way_to("Warmt", tool)
+        self.do(lines, lambda: self.session.move_to(*point))
 
     def press_tip(self):
         self.hover()
@@ -207,8 +212,12 @@ class User:
         node = [child for child in tabs if child.role == accessible.PAGE_TAB][tab]
         x, y = self.session.point_in(node)
         self.require_on_screen((x, y))
-        self.do([], lambda: self.session.move_to(x, y))
-        self.do([f"tab Settings.SSTab1 {tab}"], self.screen.click)
+
+        def click():
+            self.session.move_to(x, y)
+            self.screen.click()
+
+        self.do([f"tab Settings.SSTab1 {tab}"], click)
 
     def press_button(self):
         form = self.front()
@@ -236,11 +245,11 @@ class User:
         self.require_on_screen(*places)
 
         def drag():
+            self.session.move_to(*places[0])
             self.screen.press()
             self.session.move_to(*places[1])
             self.screen.release()
 
-        self.do([], lambda: self.session.move_to(*places[0]))
         self.do([f"rows Total.grdResult {first + 1} {last + 1}"], drag)
 
     def click_on_grid(self):
