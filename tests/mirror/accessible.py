@@ -141,7 +141,7 @@ class Program:
 
 
 def told_of(top):
-    """The nodes below a window that say something: those in a list do unseen too."""
+    """A window and what says something in it: items of a list do unseen too."""
     yield top
     for child in top.children:
         if child.role in WITH_ITEMS:
