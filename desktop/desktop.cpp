@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPixmapCache>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QThread>
@@ -132,11 +133,13 @@ FormView* Desktop::View_Of(const Form& form) const {
 
 void Desktop::Run_Modal(Form& form) {
   QEventLoop loop;
+  // The end of the program, and a failure, leave the loop with the form still there.
+  const auto leave = qScopeGuard([&] {
+    if (FormView* view = View_Of(form)) view->Leave_Modal();
+  });
   View_Of(form)->Show_Modal(loop);
   Show_Changes();
   if (form.Shown() && !program_.Ended()) loop.exec();
-  // The end of the program leaves the loop with the form still there.
-  if (FormView* view = View_Of(form)) view->Leave_Modal();
 }
 
 void Desktop::Let_Events_Run() {
@@ -212,10 +215,12 @@ void Desktop::Close_One_More_Window() {
 }
 
 void Desktop::Call(const std::function<void()>& program_call) {
-  ++calls_;
-  program_call();
-  After_Program_Call();
-  if (--calls_ > 0) return;
+  {
+    const QScopedValueRollback<int> one_more(calls_, calls_ + 1);
+    program_call();
+    After_Program_Call();
+  }
+  if (calls_ > 0) return;
   // Neither sooner, since an event further out may be one of such a window, nor at once, since this
   // event may be.
   for (FormView* view : std::exchange(unloaded_, {})) view->deleteLater();

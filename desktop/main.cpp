@@ -1,4 +1,6 @@
 #include <QFont>
+#include <exception>
+#include <iostream>
 
 #include "desktop/app_icon.h"
 #include "desktop/application.h"
@@ -8,8 +10,12 @@
 #include "frame/version.h"
 #include "host/failed_writes.h"
 
-int main(int argc, char** argv) {
-  norvane::Let_Writes_Fail();
+namespace {
+
+constexpr int kFailed = 3;
+
+/// The exit status.
+int Run(int argc, char** argv) {
   norvane::Application application(argc, argv);
   QApplication::setApplicationName(norvane::kTitle);
   QApplication::setDesktopFileName("norvane");
@@ -20,9 +26,26 @@ int main(int argc, char** argv) {
   norvane::Desktop desktop(QCoreApplication::applicationDirPath().toStdString());
   application.Set_Failure([&desktop] { desktop.Fail(); });
   const norvane::SessionEnd session_end([&desktop] { desktop.End_Session(); });
-  desktop.Start();
-  if (desktop.program().Ended()) return desktop.program().Failed() ? 3 : 0;
-  // Drawn when the splash is on the screen already: no window needs it before.
-  QApplication::setWindowIcon(norvane::App_Icon());
+  try {
+    desktop.Start();
+    // Drawn when the splash is on the screen already: no window needs it before.
+    if (!desktop.program().Ended()) QApplication::setWindowIcon(norvane::App_Icon());
+  } catch (const std::exception&) {
+    desktop.Fail();
+  }
+  if (desktop.program().Ended()) return desktop.program().Failed() ? kFailed : 0;
   return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  norvane::Let_Writes_Fail();
+  try {
+    return Run(argc, argv);
+  } catch (const std::exception& problem) {
+    // Before there is a window that could say so.
+    std::cerr << norvane::kTitle << ": error: " << problem.what() << '\n';
+    return kFailed;
+  }
 }

@@ -10,6 +10,7 @@ import subprocess
 import xml.etree.ElementTree
 import zipfile
 from concurrent.futures import ThreadPoolExecutor
+from functools import partial
 
 from locale_environment import need
 from program import PATIENCE, expect, set_hours, values_of
@@ -53,19 +54,14 @@ def play_with_failure(program, folder, call, number, player, temporary, script=b
     return run.returncode, run.stdout, failed
 
 
-def numbers_to_fail(program, call):
-    """Which calls fail; the short form takes some of the frequent ones."""
-    return range(1, MANY, STEPS.get(call, 1) if program.short else 1)
-
-
-def each_failure(program, call, play):
-    """Lets calls fail until a run has so many no more; how many failed."""
+def each_failure(call, step, play, at_once=AT_ONCE):
+    """Lets the first call fail, or every `step`-th, until a run has so many no more; how many failed."""
     count = 0
-    with ThreadPoolExecutor(AT_ONCE) as threads:
+    with ThreadPoolExecutor(at_once) as threads:
         pending = []
-        for number in numbers_to_fail(program, call):
+        for number in range(1, MANY, step):
             pending.append(threads.submit(play, call, number))
-            if len(pending) == AT_ONCE:
+            if len(pending) == at_once:
                 if not pending.pop(0).result():
                     return count
                 count += 1
@@ -89,8 +85,13 @@ def use(program, call, number):
     return failed
 
 
+def step_of(program, call):
+    return STEPS.get(call, 1) if program.short else 1
+
+
 def every_use(program):
-    counts = {call: each_failure(program, call, lambda *at: use(program, *at)) for call in CALLS}
+    counts = {call: each_failure(call, step_of(program, call), partial(use, program))
+              for call in CALLS}
     return ", ".join(f"{call} {count}" for call, count in counts.items() if count)
 
 
@@ -127,7 +128,7 @@ def numbers_of(book):
 def every_export(program):
     need(program, "tests/worlds/exporter")
     # The library that writes the file takes the smallest pieces of memory for granted.
-    counts = {call: each_failure(program, call, lambda *at: export(program, *at))
+    counts = {call: each_failure(call, step_of(program, call), partial(export, program))
               for call in CALLS if call != "malloc"}
     return ", ".join(f"{call} {count}" for call, count in counts.items() if count)
 

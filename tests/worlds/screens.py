@@ -37,6 +37,7 @@ class Screen:
             if shutil.which(needed) is None:
                 raise Skipped(f"there is no {needed}")
         self._home = program.new_place()
+        self._home.chmod(0o711)
         self._processes = []
 
     def __enter__(self):
