@@ -33,8 +33,8 @@ cmake --build --preset clang --target \
   quick_tests norvane norvane-tour norvane-artwork norvane_office norvane-batch norvane_c
 
 echo "== sanitize"
-cmake --preset sanitize -DNORVANE_WERROR=ON -DNORVANE_DESKTOP=OFF >/dev/null
-cmake --build --preset sanitize --target quick_tests
+cmake --preset sanitize -DNORVANE_WERROR=ON >/dev/null
+cmake --build --preset sanitize --target quick_tests sanitized_tests
 
 echo "== tsan"
 cmake --preset tsan -DNORVANE_WERROR=ON >/dev/null
@@ -48,14 +48,14 @@ echo "== windows"
 tests/windows/build
 
 # CMake leaves out the tests of what it doesn't find.
-for label in quick batch library desktop accessibility mirror office faults soak worlds; do
+for label in quick batch library desktop accessibility mirror office packaging faults soak worlds; do
   ctest --test-dir build/release -N -L "^$label\$" | grep -q "Test *#" ||
     { echo "There are no tests of $label" >&2; exit 1; }
 done
 
 tests/check_sources build/clang
 ctest --test-dir build/clang --output-on-failure -L quick -j 2
-ctest --test-dir build/sanitize --output-on-failure -L quick -j 2
+ctest --test-dir build/sanitize --output-on-failure -L 'quick|sanitized' -j 2
 build/tsan/tests/spreadsheet/spreadsheet_tests --gtest_brief=1
 ctest --test-dir build/tsan --output-on-failure -L '^batch$'
 ctest --test-dir build/fuzz --output-on-failure -j 2
