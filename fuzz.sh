@@ -3,7 +3,8 @@
 # and prints what each did. Fails when anything was found.
 #   ./fuzz.sh [MINUTES]
 # A find lies in build/fuzz-finds, named by its fuzzer; give it to the fuzzer to see it again. What the
-# fuzzers learn goes to build/fuzz-corpus, and the next run begins with it.
+# fuzzers learn goes to build/fuzz-corpus, and the next run begins with it. Their executions and minutes
+# are added to fuzz/executions, which holds those of all runs.
 set -eu
 cd "$(dirname "$0")"
 minutes=${1:-10}
@@ -40,9 +41,22 @@ END
 printf '%s\n' "$@" | xargs -P "$cores" -I '{}' sh build/fuzz/run_one '{}' "$seconds"
 
 figure() { sed -n "s/^stat::$2: *//p" "build/fuzz/$1.log"; }
-printf '%-16s %12s %10s %10s %6s\n' fuzzer executions seconds corpus finds
+# The edges of the program that the corpus reaches, and all that there are in this fuzzer.
+reached() { grep -o 'cov: [0-9]*' "build/fuzz/$1.log" | tail -n 1 | cut -d ' ' -f 2; }
+edges() { sed -n 's/.*(\([0-9]*\) inline 8-bit counters).*/\1/p' "build/fuzz/$1.log" | head -n 1; }
+printf '%-16s %12s %10s %10s %14s %6s\n' fuzzer executions seconds corpus edges finds
+: >build/fuzz/this_run
 for fuzzer in $fuzzers; do
-  printf '%-16s %12s %10s %10s %6s\n' "$fuzzer" "$(figure "$fuzzer" number_of_executed_units)" "$seconds" \
-    "$(find "build/fuzz-corpus/$fuzzer" -type f | wc -l)" "$(find "$finds" -name "$fuzzer-*" -newer build/fuzz/run_one | wc -l)"
+  executions=$(figure "$fuzzer" number_of_executed_units)
+  printf '%-16s %12s %10s %10s %14s %6s\n' "$fuzzer" "$executions" "$seconds" \
+    "$(find "build/fuzz-corpus/$fuzzer" -type f | wc -l)" "$(reached "$fuzzer") of $(edges "$fuzzer")" \
+    "$(find "$finds" -name "$fuzzer-*" -newer build/fuzz/run_one | wc -l)"
+  echo "$fuzzer ${executions:-0} $seconds" >>build/fuzz/this_run
 done
+cat fuzz/executions build/fuzz/this_run |
+  awk '{ executions[$1] += $2; seconds[$1] += $3 }
+       END { for (fuzzer in executions) print fuzzer, executions[fuzzer], seconds[fuzzer] }' |
+  sort >build/fuzz/all_runs
+mv build/fuzz/all_runs fuzz/executions
+awk '{ sum += $2 } END { printf "%d executions in all runs so far\n", sum }' fuzz/executions
 [ -z "$(find "$finds" -type f ! -name "*slow-unit*" -newer build/fuzz/run_one)" ]
