@@ -15,6 +15,8 @@ struct CondensInput {
   std::string alpha_text;  ///< surface heat-transfer coefficient as typed, W/m2K; may be empty
   std::int16_t Sel_Size = 0;
   float Lambda = 0;  ///< conductivity at 0 degrees Celsius, W/mK
+
+  bool operator==(const CondensInput&) const = default;
 };
 
 struct CondensResult {

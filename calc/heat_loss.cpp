@@ -98,7 +98,7 @@ HeatLossResult Heat_Loss(const HeatFlowInput& input) {
   return result;
 }
 
-HeatLossResult Heat_Loss(const HeatLossInput& input, const Locale& locale) {
+HeatFlowInput In_Numbers(const HeatLossInput& input, const Locale& locale) {
   // Sum and difference are 16-bit numbers too.
   To_Int16(input.T_med + input.T_amb);
   To_Int16(input.T_med - input.T_amb);
@@ -114,7 +114,11 @@ HeatLossResult Heat_Loss(const HeatLossInput& input, const Locale& locale) {
   numbers.Days = input.Days;
   numbers.Mtrs = input.Mtrs;
   numbers.hot_medium = input.raw_T_med > input.raw_T_amb;
-  return Heat_Loss(numbers);
+  return numbers;
+}
+
+HeatLossResult Heat_Loss(const HeatLossInput& input, const Locale& locale) {
+  return Heat_Loss(In_Numbers(input, locale));
 }
 
 }  // namespace norvane

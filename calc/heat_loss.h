@@ -41,6 +41,8 @@ struct HeatFlowInput {
   double Days = 0;          ///< operating days
   double Mtrs = 0;          ///< m of pipe, m2 of sheet
   bool hot_medium = false;  ///< the medium is the warmer side
+
+  bool operator==(const HeatFlowInput&) const = default;
 };
 
 /// An object as the main screen's fields hold it.
@@ -110,7 +112,13 @@ Fuels Fuels_For(float heat_flow, const HeatFlowInput& input);
 /// @param input the object and its use
 HeatLossResult Heat_Loss(const HeatFlowInput& input);
 
-/// The same of whole degrees. Throws `RuntimeError` 13 for an alpha that is no number.
+/// An object of the main screen's fields in numbers alone. Throws `RuntimeError` 13 for an alpha
+/// that is no number, 6 for temperatures whose sum or difference doesn't fit 16 bits.
+/// @param input the object and its use
+/// @param locale the user's number signs
+HeatFlowInput In_Numbers(const HeatLossInput& input, const Locale& locale);
+
+/// The heat loss of an object of the main screen's fields. Throws as `In_Numbers` does, too.
 /// @param input the object and its use
 /// @param locale the user's number signs
 HeatLossResult Heat_Loss(const HeatLossInput& input, const Locale& locale);

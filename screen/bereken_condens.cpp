@@ -3,25 +3,12 @@
 #include "calc/sizes.h"
 #include "frame/settings_file.h"
 #include "frame/shared_state.h"
+#include "screen/inputs.h"
 #include "screen/start_values.h"
 #include "screen/warmt.h"
 
 namespace norvane {
 namespace {
-
-CondensInput Read_Input(Module1& module1, Warmt& warmt) {
-  CondensInput input;
-  input.T_med = To_Single(Val(warmt.txtC(0).Text()));
-  input.T_amb = To_Single(Val(warmt.txtC(1).Text()));
-  input.humidity = To_Single(Val(warmt.txtC(4).Text()));
-  if (module1.Sel_Size != kSheet) {
-    input.D_pipe = To_Single(Val(warmt.txtC(3).Text()) / 1000.0);
-  }
-  input.alpha_text = warmt.Text4(1).Text();
-  input.Sel_Size = module1.Sel_Size;
-  input.Lambda = module1.Lambda;
-  return input;
-}
 
 std::int16_t Kept_Index(Module1& module1, const std::string& Key, const std::string& Default) {
   return To_Int16(Val(Ini_Read(module1, kSettingsFile, kInitSection, Key, Default)));
@@ -38,7 +25,7 @@ void Warmt::Bereken_Condens() {
   Label7(4).Set_Visible(true);
   if (First_Condens) Condens_Defaults();
 
-  const CondensResult result = Condensation(Read_Input(module1_, *this), module1_.Locale());
+  const CondensResult result = Condensation(Condensation_Input(module1_, *this), module1_.Locale());
   module1_.Alpha = result.Alpha;
 
   const norvane::Locale locale = module1_.Locale();

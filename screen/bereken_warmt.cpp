@@ -1,28 +1,10 @@
 #include "calc/heat_loss.h"
 #include "frame/shared_state.h"
+#include "screen/inputs.h"
 #include "screen/warmt.h"
 
 namespace norvane {
 namespace {
-
-float Metres(const TextField& millimetres) { return To_Single(Val(millimetres.Text()) / 1000.0); }
-
-HeatLossInput Read_Input(Module1& module1, Warmt& warmt) {
-  HeatLossInput input;
-  input.raw_T_med = Val(warmt.txtT(0).Text());
-  input.raw_T_amb = Val(warmt.txtT(1).Text());
-  input.T_med = To_Int16(input.raw_T_med);
-  input.T_amb = To_Int16(input.raw_T_amb);
-  input.d_ins = Metres(warmt.txtT(2));
-  if (module1.Sel_Size != kSheet) input.D_pipe = Metres(warmt.txtT(3));
-  input.alpha_text = warmt.Text4(1).Text();
-  input.Sel_Size = module1.Sel_Size;
-  input.Lambda = module1.Lambda;
-  input.Hr_Day = module1.Hr_Day;
-  input.Days = module1.Days;
-  input.Mtrs = module1.Mtrs;
-  return input;
-}
 
 void Show_Savings(Warmt& warmt, const std::optional<Savings>& savings, const Locale& locale) {
   if (!savings) {
@@ -48,7 +30,7 @@ void Warmt::Bereken_Warmt() {
   txtT(2).Set_Bold(false);
   if (First_Warmt) Warmt_Defaults();
 
-  const HeatLossResult result = Heat_Loss(Read_Input(module1_, *this), module1_.Locale());
+  const HeatLossResult result = Heat_Loss(Heat_Loss_Input(module1_, *this), module1_.Locale());
   module1_.Alpha = result.Alpha;
   constexpr TextId kPipeTexts[] = {TextId::kSaving, TextId::kGasSaving, TextId::kOilSaving,
                                    TextId::kElectricitySaving};
