@@ -45,6 +45,7 @@ inline constexpr QColor kBore(23, 25, 29);
 
 /// The coloured parts of the toolbar's signs, on light grounds and on dark ones.
 inline constexpr QColor kHeat(205, 72, 14);
+inline constexpr QColor kHeatDark(176, 58, 8);  // for texts, which are thin
 inline constexpr QColor kHeatOnDark(255, 138, 70);
 inline constexpr QColor kWater(36, 116, 190);
 inline constexpr QColor kWaterOnDark(96, 172, 238);

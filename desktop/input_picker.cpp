@@ -3,9 +3,9 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <cstdlib>
 
 #include "desktop/desktop.h"
+#include "desktop/enter.h"
 #include "desktop/form_view.h"
 #include "desktop/own_texts.h"
 #include "desktop/picker.h"
@@ -13,11 +13,6 @@
 #include "screen/warmt.h"
 
 namespace norvane {
-
-TextField& InputPicker::Field_Of(const InputRow& row) {
-  if (row.index == InputRow::kLength) return warmt_.txtmtrs;
-  return (row.heat_loss ? warmt_.txtT : warmt_.txtC)(row.index);
-}
 
 void InputPicker::Offer(QLineEdit& edit, const InputRow& row) {
   const Offered offered{row, &edit, new PickerArrow(edit)};
@@ -56,16 +51,7 @@ void InputPicker::Open(const Offered& offered) {
   picker_->Open_At(*offered.edit, subject);
 }
 
-void InputPicker::Take(const std::string& text) {
-  const InputRow row = open_.row;
-  if (!Field_Of(row).Locked()) {
-    view_.Send_Text(Field_Of(row), QString::fromStdString(text));
-    return;
-  }
-  const int clicks = Clicks_To(warmt_, row, text);
-  const UserAction click = clicks < 0 ? UserAction::kDown : UserAction::kUp;
-  for (int i = 0; i < std::abs(clicks); ++i) view_.Send(click, warmt_.SpinButton1(row.index));
-}
+void InputPicker::Take(const std::string& text) { Enter(view_, warmt_, open_.row, text); }
 
 void InputPicker::Pass(bool forward) {
   // What was taken may have sent the user to another field.

@@ -12,7 +12,6 @@ namespace norvane {
 class FormView;
 class Picker;
 class PickerArrow;
-class TextField;
 class Warmt;
 
 /// Offers a picker for each input field of the main screen, and plays what it is left with by the
@@ -36,7 +35,6 @@ class InputPicker : public QObject {
     PickerArrow* arrow;
   };
 
-  TextField& Field_Of(const InputRow& row);
   void Open(const Offered& offered);
   void Take(const std::string& text);
   void Pass(bool forward);

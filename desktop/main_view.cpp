@@ -27,8 +27,7 @@ MainView::MainView(Desktop& desktop, Warmt& warmt)
   page->setSpacing(10);
   page->addLayout(Make_Menu());
   page->addWidget(tools_);
-  page->addLayout(Make_Cards());
-  page->addStretch();
+  page->addLayout(Make_Cards(), 1);
   page->addWidget(Make_Foot());
 
   std::vector<const Field*> lettered;
@@ -63,6 +62,7 @@ QLayout* MainView::Make_Cards() {
   cards->addWidget(object_, 0, 1);
   cards->addWidget(results_, 1, 0, 1, 2);
   cards->setColumnStretch(0, 1);
+  cards->setRowStretch(1, 1);
   return cards;
 }
 

@@ -9,6 +9,16 @@ const char* In_English(TextId text) {
   switch (text) {
     case TextId::kChooseValue:
       return "Choose a value";
+    case TextId::kDewPoint:
+      return "Dew point";
+    case TextId::kNextSize:
+      return "Next size";
+    case TextId::kChart:
+      return "Chart";
+    case TextId::kAboveDewPoint:
+      return "Above the dew point";
+    case TextId::kNoSaving:
+      return "No saving";
     default:
       return "";
   }

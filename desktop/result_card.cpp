@@ -11,6 +11,7 @@
 #include "desktop/columns.h"
 #include "desktop/form_view.h"
 #include "desktop/number_label.h"
+#include "desktop/screen_chart.h"
 #include "screen/warmt.h"
 
 namespace norvane {
@@ -18,10 +19,12 @@ namespace {
 
 constexpr int kSavingRow = 5;  // the first of the savings, which has a percentage too
 constexpr int kLastRow = 8;
+constexpr int kChartColumn = kSecondUnitColumn + 1;
 
 }  // namespace
 
-ResultCard::ResultCard(FormView& view, Warmt& warmt) : view_(view), warmt_(warmt) {
+ResultCard::ResultCard(FormView& view, Warmt& warmt)
+    : view_(view), warmt_(warmt), chart_(new ScreenChart(view, warmt)) {
   setFocusPolicy(Qt::StrongFocus);
   auto* grid = new QGridLayout(this);
   Lay_Out_Columns(*grid);
@@ -34,7 +37,18 @@ ResultCard::ResultCard(FormView& view, Warmt& warmt) : view_(view), warmt_(warmt
   // From the savings on the values run one ahead of the headings.
   for (int row = kSavingRow; row <= kLastRow; ++row) Add_Row(*grid, place++, row, row + 1);
   grid->setRowStretch(place, 1);
-  setFixedHeight((kLastRow + 2) * kRowHeight + 30);
+  Add_Chart(*grid, place + 1);
+  setMinimumHeight((kLastRow + 2) * kRowHeight + 30);
+}
+
+void ResultCard::Add_Chart(QGridLayout& grid, int rows) {
+  // No result has a second unit, so the chart begins where that would stand.
+  grid.setColumnMinimumWidth(kSecondUnitColumn, 0);
+  grid.setColumnStretch(kSecondUnitColumn, 0);
+  grid.setColumnStretch(kChartColumn, 1);
+  constexpr int kAround = 12;
+  chart_->setContentsMargins(kAround, 4, 0, 4);
+  grid.addWidget(chart_, 0, kChartColumn, rows, 1);
 }
 
 void ResultCard::Add_Letters(QGridLayout& grid) {
@@ -80,7 +94,10 @@ void ResultCard::Add_Savings_Heading(QGridLayout& grid, int place) {
   view_.Bind<CaptionBinder>(warmt_.Label6, *savings_heading_);
 }
 
-void ResultCard::Follow_Mode() { line_->setVisible(warmt_.Label6.Visible()); }
+void ResultCard::Follow_Mode() {
+  line_->setVisible(warmt_.Label6.Visible());
+  chart_->Follow();
+}
 
 void ResultCard::Name_Values(const QString& mode) {
   for (const Row& row : rows_) {

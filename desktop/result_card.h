@@ -10,16 +10,18 @@ namespace norvane {
 
 class CaptionField;
 class FormView;
+class ScreenChart;
 class Warmt;
 
-/// The result rows of the main screen. With the focus, Ctrl+C copies those that show as text.
+/// The result rows of the main screen, and the chart beside them. With the focus, Ctrl+C copies
+/// those that show as text.
 class ResultCard : public Card {
   Q_OBJECT
 
  public:
   ResultCard(FormView& view, Warmt& warmt);
 
-  /// Shows the line above the savings while they show.
+  /// Shows the line above the savings while they show, and the chart of what the results are for.
   void Follow_Mode();
   /// Gives each value the words that a screen reader tells when it has changed.
   void Name_Values(const QString& mode);
@@ -40,6 +42,7 @@ class ResultCard : public Card {
     QLabel* percent;
   };
 
+  void Add_Chart(QGridLayout& grid, int rows);
   void Add_Letters(QGridLayout& grid);
   void Add_Row(QGridLayout& grid, int place, int heading, int value);
   void Add_Savings_Heading(QGridLayout& grid, int place);
@@ -50,6 +53,7 @@ class ResultCard : public Card {
   Warmt& warmt_;
   CardRule* line_ = nullptr;
   QLabel* savings_heading_ = nullptr;
+  ScreenChart* chart_;
   std::vector<Row> rows_;
 };
 

@@ -13,6 +13,8 @@
 #include <QTabBar>
 #include <QTableView>
 
+#include "desktop/chart_view.h"
+
 namespace norvane {
 namespace {
 
@@ -152,6 +154,16 @@ void Add_Cells(const QAbstractItemView& view, std::vector<ShownText>& texts) {
   }
 }
 
+void Add_Texts_Of_Chart(const ChartView& chart, std::vector<ShownText>& texts) {
+  // A text outside the chart has no room at all.
+  const QRectF all(chart.rect());
+  const ChartLayout layout = chart.Laid_Out();
+  for (const ChartText& text : layout.Texts()) {
+    const QRectF room = all.contains(text.room) ? text.room : QRectF();
+    texts.push_back({&chart, text.text, Size_Of(text.text, chart), room.toAlignedRect()});
+  }
+}
+
 void Add_Texts(const QWidget& widget, std::vector<ShownText>& texts) {
   if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
     texts.push_back(Of_Label(*label));
@@ -170,6 +182,8 @@ void Add_Texts(const QWidget& widget, std::vector<ShownText>& texts) {
     Add_Cells(*table, texts);
   } else if (const auto* list = qobject_cast<const QListWidget*>(&widget)) {
     Add_Cells(*list, texts);
+  } else if (const auto* chart = qobject_cast<const ChartView*>(&widget)) {
+    Add_Texts_Of_Chart(*chart, texts);
   }
 }
 

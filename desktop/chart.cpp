@@ -1,0 +1,107 @@
+#include "desktop/chart.h"
+
+#include <QPainter>
+#include <QPalette>
+
+#include "desktop/colours.h"
+
+namespace norvane {
+namespace {
+
+constexpr qreal kStop = 5;  // the length of the marks below the axis
+constexpr qreal kDot = 3.5;
+
+QPen Pen_Of(std::size_t line, const ChartColours& colours) {
+  // Those who don't tell the colours apart tell the dashes.
+  constexpr Qt::PenStyle kStyles[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine};
+  QPen pen(colours.lines[line], 2, kStyles[line]);
+  pen.setCapStyle(Qt::FlatCap);
+  return pen;
+}
+
+/// A line on whole pixels is sharp.
+qreal Whole(qreal at) { return std::floor(at) + 0.5; }
+
+void Paint_Grid(QPainter& painter, const Chart& chart, const ChartLayout& layout,
+                const ChartColours& colours) {
+  const QRectF& plot = layout.Plot();
+  painter.setPen(QPen(colours.grid, 1));
+  const double range = chart.left.most - chart.left.least;
+  for (double at = 0; at < range + chart.left.step / 2; at += chart.left.step) {
+    const qreal y = Whole(plot.bottom() - plot.height() * at / range);
+    painter.drawLine(QPointF(plot.left(), y), QPointF(plot.right(), y));
+  }
+  painter.setPen(QPen(colours.text, 1));
+  const qreal foot = Whole(plot.bottom());
+  for (const float stop : chart.stops) {
+    const qreal x = Whole(layout.X(stop));
+    painter.drawLine(QPointF(x, foot), QPointF(x, foot + kStop));
+  }
+}
+
+void Paint_Lines(QPainter& painter, const Chart& chart, const ChartLayout& layout,
+                 const ChartColours& colours) {
+  QPolygonF polygon;
+  for (std::size_t i = 0; i < chart.lines.size(); ++i) {
+    const ChartLine& line = chart.lines[i];
+    painter.setPen(Pen_Of(i, colours));
+    painter.drawLine(layout.Sample(i));
+    polygon.clear();
+    for (std::size_t at = 0; at < chart.places.size(); ++at) {
+      polygon << layout.Point(line, chart.places[at], line.values[at]);
+    }
+    painter.drawPolyline(polygon);
+  }
+}
+
+void Paint_Mark(QPainter& painter, const Chart& chart, const ChartLayout& layout,
+                const ChartColours& colours, double across, const auto& value_of) {
+  const QRectF& plot = layout.Plot();
+  const qreal x = Whole(layout.X(across));
+  painter.setPen(QPen(colours.text, 1, Qt::DotLine));
+  painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom()));
+  painter.setPen(Qt::NoPen);
+  for (std::size_t i = 0; i < chart.lines.size(); ++i) {
+    painter.setBrush(colours.lines[i]);
+    painter.drawEllipse(layout.Point(chart.lines[i], across, value_of(chart.lines[i])), kDot, kDot);
+  }
+}
+
+}  // namespace
+
+ChartColours Chart_Colours(const QPalette& palette) {
+  constexpr int kMiddling = 128;
+  const bool dark = palette.color(QPalette::Base).lightness() < kMiddling;
+  QColor grid = palette.color(QPalette::Text);
+  grid.setAlphaF(0.2F);
+  if (dark) return {palette.color(QPalette::Text), grid, {kAccentLight, kHeatOnDark, kWaterOnDark}};
+  return {palette.color(QPalette::Text), grid, {kAccentDark, kHeatDark, kWater}};
+}
+
+void Paint_Chart(QPainter& painter, const Chart& chart, const ChartLayout& layout,
+                 const ChartColours& colours, std::optional<std::size_t> reading) {
+  if (chart.lines.empty()) return;
+  Paint_Grid(painter, chart, layout, colours);
+  painter.setRenderHint(QPainter::Antialiasing);
+  Paint_Lines(painter, chart, layout, colours);
+  if (chart.present) {
+    Paint_Mark(painter, chart, layout, colours, *chart.present,
+               [](const ChartLine& line) { return line.at_present; });
+  }
+  if (reading) {
+    Paint_Mark(painter, chart, layout, colours, chart.places[*reading],
+               [&](const ChartLine& line) { return line.values[*reading]; });
+  }
+  for (const ChartText& text : layout.Texts()) {
+    painter.setPen(text.line < 0 ? colours.text
+                                 : colours.lines[static_cast<std::size_t>(text.line)]);
+    painter.drawText(text.room, static_cast<int>(text.alignment | Qt::AlignVCenter), text.text);
+  }
+}
+
+void Paint_Chart(QPainter& painter, const QRectF& area, const Chart& chart,
+                 const ChartColours& colours) {
+  Paint_Chart(painter, chart, ChartLayout(chart, area, painter.font()), colours);
+}
+
+}  // namespace norvane
