@@ -33,6 +33,12 @@ void Show_Ground(QWidget& widget, QPalette::ColorRole ground, QPalette::ColorRol
   if (widget.palette() != palette) widget.setPalette(palette);
 }
 
+/// Captions and pictures take no focus from the field that the user was at; the keyboard reaches
+/// them all the same.
+void Leave_Focus_When_Clicked(QAbstractButton& button) {
+  if (button.focusPolicy() != Qt::NoFocus) button.setFocusPolicy(Qt::TabFocus);
+}
+
 }  // namespace
 
 Binder::Binder(FormView& view, Field& field, QWidget& widget)
@@ -150,6 +156,7 @@ void NumberBinder::Show_Caption(const QString& caption) { label_.Show_Number(cap
 CaptionButtonBinder::CaptionButtonBinder(FormView& view, CaptionField& field,
                                          QAbstractButton& button)
     : Binder(view, field, button), field_(field), button_(button) {
+  Leave_Focus_When_Clicked(button);
   QObject::connect(&button, &QAbstractButton::clicked, &button,
                    [this] { Send(UserAction::kClick); });
 }
@@ -183,6 +190,7 @@ PictureBinder::PictureBinder(FormView& view, PictureField& field, QWidget& widge
                              std::function<void(int number)> show_picture)
     : Binder(view, field, widget), field_(field), show_picture_(std::move(show_picture)) {
   if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
+    Leave_Focus_When_Clicked(*button);
     QObject::connect(button, &QAbstractButton::clicked, button,
                      [this] { Send(UserAction::kClick); });
   }
@@ -237,6 +245,10 @@ TabsBinder::TabsBinder(FormView& view, Tabs& field, QTabBar& bar)
   QObject::connect(&bar, &QTabBar::currentChanged, &bar, [this](int tab) {
     form_view().Field_Changed(field_, Attribute::kTab);
     Send(UserAction::kPickTab, tab);
+  });
+  // The tab in front is picked as any other is, and takes the focus.
+  QObject::connect(&bar, &QTabBar::tabBarClicked, &bar, [this](int tab) {
+    if (tab == bar_.currentIndex()) Send(UserAction::kPickTab, tab);
   });
 }
 

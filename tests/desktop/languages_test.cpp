@@ -59,6 +59,15 @@ TEST_F(Languages, The_List_Names_Each_Language_In_Its_Own_Letters) {
   for (int i = 0; i <= 13; ++i) EXPECT_EQ(Shown(List().Label3(i)), "3.1");
 }
 
+TEST_F(Languages, A_Click_On_A_Word_Of_The_Menu_Leaves_The_Focus_In_Its_Field) {
+  Click(Screen().txtT(2));
+  Open();
+  Click(List().OK);
+  Wait_Until_Active(Screen());
+  EXPECT_TRUE(Widget(Screen().txtT(2)).hasFocus());
+  EXPECT_TRUE(Widget(Screen().lblMenu(1)).focusPolicy() & Qt::TabFocus);
+}
+
 TEST_F(Languages, Even_Slots_Stand_On_The_Left_And_Odd_Ones_On_The_Right) {
   Open();
   const auto at = [this](int i) {

@@ -87,6 +87,18 @@ TEST_F(SettingsDialog, It_Stands_Over_The_Main_Screen) {
   });
 }
 
+TEST_F(SettingsDialog, The_Tab_In_Front_Takes_The_Focus_When_Clicked_As_Any_Other_Does) {
+  With_Dialog(Screen().cmdToolBar4(0), [&] {
+    Click(Dialog().Text1);
+    Click_Tab(1);
+    EXPECT_TRUE(Widget(Dialog().SSTab1).hasFocus());
+    Click(Dialog().Text1);
+    Click_Tab(2);
+    EXPECT_TRUE(Widget(Dialog().SSTab1).hasFocus());
+    Press(Qt::Key_Escape);
+  });
+}
+
 TEST_F(SettingsDialog, A_Click_On_A_Tab_Shows_Its_Fields) {
   With_Dialog(Screen().cmdToolBar5(0), [this] {
     Click_Tab(1);
