@@ -84,6 +84,16 @@ class Wanted:
     def front(self):
         return next((form for form in self.forms if truth(self.raw[f"{form}.Active"])), None)
 
+    def focus(self):
+        """The field that has the focus, None where the model leaves it to the window."""
+        form, _, field = self.raw["Focus"].rpartition(".")
+        form = form or "Warmt"
+        if not field or form != self.front():
+            return None
+        if (form, field) != ("Total", "grdResult") and not self.visible(form, field):
+            return None
+        return f"{form}.{field}"
+
     def text(self, form, field):
         return self.raw.get(f"{form}.{field}.Caption", "")
 
@@ -158,6 +168,9 @@ class Wanted:
                     self.of_part(told, form, kind, f"{form}.{field}")
                 else:
                     self.of_field(told, form, kind, field)
+        focus = self.focus()
+        if focus is not None:
+            told["focus"] = focus
         if "Warmt" in self.forms:
             tip = truth(self.raw["Warmt.picToolTip.Visible"])
             told["tip"] = self.raw["Warmt.LblTooltip.Caption"] if tip else None
@@ -191,8 +204,10 @@ class Seen:
         return next((form for form, top in self.tops.items() if top.has(accessible.ACTIVE)), None)
 
     def focus(self):
-        return next((f"{form}.{field}" for form, fields in self.fields.items()
-                     for field, node in fields.items() if node.has(accessible.FOCUSED)), None)
+        """The field of the window in front that has the focus."""
+        form = self.front()
+        return next((f"{form}.{field}" for field, node in self.fields.get(form, {}).items()
+                     if any(part.has(accessible.FOCUSED) for part in parts_of(node))), None)
 
     def of_field(self, told, key, kind, node):
         told[key + " shows"] = node.has(accessible.SHOWING)
@@ -216,7 +231,7 @@ class Seen:
 
     def told(self):
         told = {"windows": sorted(list(self.tops) + ["message"] * len(self.boxes)),
-                "front": self.front()}
+                "front": self.front(), "focus": self.focus()}
         for form, top in self.tops.items():
             told[form + " title"] = top.name
             for kind, field in FORMS[form]:
@@ -226,6 +241,14 @@ class Seen:
             shown = tip is not None and tip.has(accessible.SHOWING)
             told["tip"] = self.fields["Warmt"]["LblTooltip"].name if shown else None
         return told
+
+
+def parts_of(node):
+    """What may have the focus for a field. The chosen item of a closed list and the tab in front
+    say that they have it while another field does."""
+    yield node
+    if node.role in accessible.LISTS:
+        yield from node.below()
 
 
 def rows_of(table):

@@ -5,7 +5,7 @@ import time
 
 from Xlib import X, XK, Xatom, display, error
 from Xlib.ext import xtest
-from Xlib.protocol import event
+from Xlib.protocol import event, request
 
 PATIENCE = 20  # seconds
 KEYS = {
@@ -111,10 +111,14 @@ class Screen:
         active = self.root.get_full_property(self.atom("_NET_ACTIVE_WINDOW"), Xatom.WINDOW)
         return active.value[0] if active else 0
 
-    def colour_at(self, x, y):
-        image = self.root.get_image(int(x), int(y), 1, 1, X.ZPixmap, 0xFFFFFFFF)
-        blue, green, red = image.data[0], image.data[1], image.data[2]
-        return red, green, blue
+    def colours_at(self, points):
+        """Red, green and blue of what shows there."""
+        asked = [request.GetImage(
+            display=self.display.display, defer=True, format=X.ZPixmap, drawable=self.root.id,
+            x=x, y=y, width=1, height=1, plane_mask=0xFFFFFFFF) for x, y in points]
+        for image in asked:
+            image.reply()
+        return [tuple(image.data[2::-1]) for image in asked]
 
     # Rest
 

@@ -8,6 +8,7 @@ import time
 
 import accessible
 from comparison import TWIPS, Seen, Wanted, differences
+from grounds import different_grounds
 from model import Model
 from screen import NoAnswer
 from windows import UnknownWindow
@@ -181,6 +182,7 @@ class Session:
                 if self.tell_sizes():
                     continue
                 found = differences(self.wanted.told(), self.seen.told())
+                found += different_grounds(self.wanted, self.seen, self.screen)
             except (NoAnswer, UnknownWindow) as problem:
                 found = [f"{type(problem).__name__} {problem}"]
             if not found:
