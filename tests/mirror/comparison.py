@@ -184,6 +184,8 @@ class Wanted:
         rows, columns = int(self.raw[key + ".Rows"]), int(self.raw[key + ".Cols"])
         told[key + " rows"] = [[self.raw[f"{key}.Cell({row},{column})"]
                                 for column in range(columns)] for row in range(rows)]
+        low, high = sorted(int(self.raw[f"{key}.{end}"]) for end in ("Row", "RowSel"))
+        told[key + " marked"] = list(range(low, high + 1)) if low else []
 
 
 class Seen:
@@ -225,6 +227,7 @@ class Seen:
             told[key + " captions"] = [tab.name for tab in tabs]
         if kind == "g":
             told[key + " rows"] = rows_of(node)
+            told[key + " marked"] = marked_rows(node)
         if kind == "f":
             number = node.name.rpartition(" ")[2]
             told[key + " picture"] = int(number) if number.isdigit() else None
@@ -251,17 +254,24 @@ def parts_of(node):
         yield from node.below()
 
 
+def cells_of(table):
+    """The captions of a table, and its cells, a list a row."""
+    captions = [cell for cell in table.children if cell.role in accessible.COLUMN_HEADER]
+    cells = [cell for cell in table.children if cell.role == accessible.TABLE_CELL]
+    columns = len(captions) or 1
+    return captions, [cells[i:i + columns] for i in range(0, len(cells), columns)]
+
+
 def rows_of(table):
-    """The cells of a table, a list a row; the captions first."""
-    cells = [cell for cell in table.children]
-    captions = [cell for cell in cells if cell.role in accessible.COLUMN_HEADER]
-    columns = len(captions)
-    rest = [cell.name for cell in cells
-            if cell.role == accessible.TABLE_CELL]
-    if not columns:
-        return []
-    return [[cell.name for cell in captions]] + [
-        rest[i:i + columns] for i in range(0, len(rest), columns)]
+    """What the cells say, a list a row; the captions first."""
+    captions, rows = cells_of(table)
+    return [[cell.name for cell in row] for row in [captions, *rows] if row]
+
+
+def marked_rows(table):
+    """The numbers of the rows that are marked, from 1."""
+    return [number for number, row in enumerate(cells_of(table)[1], 1)
+            if any(cell.has(accessible.SELECTED) for cell in row)]
 
 
 def differences(wanted, seen):

@@ -7,7 +7,7 @@ import tempfile
 import time
 
 import accessible
-from comparison import TWIPS, Seen, Wanted, differences
+from comparison import TWIPS, Seen, Wanted, differences, marked_rows
 from grounds import different_grounds
 from model import Model
 from screen import NoAnswer
@@ -40,6 +40,7 @@ class Session:
         self.screen.asked = None
         self.ended = False
         self.wanted = self.seen = None
+        self.asked_about = None  # the rows that the next question is about
 
     def prepare(self, copy, settings):
         # Without the spreadsheet program both are in the same world.
@@ -102,11 +103,11 @@ class Session:
         while True:
             self.rest()
             try:
-                boxes = Seen(self.program).boxes
+                self.seen = Seen(self.program)
+                if self.seen.boxes:
+                    return self.seen.boxes[-1]
             except UnknownWindow:
-                boxes = []
-            if boxes:
-                return boxes[-1]
+                pass
             self.be_patient(end, "the message doesn't come")
 
     def answer(self, line):
@@ -133,6 +134,9 @@ class Session:
                 "text": texts[0].replace("\n", "\\n") if texts else "",
                 "buttons": sorted(buttons)}
         wanted["text"] = wanted["text"].replace("\\r\\n", "\\n").replace("\\r", "\\n")
+        if self.asked_about:
+            wanted["marked"] = self.asked_about
+            seen["marked"] = marked_rows(self.seen.fields["Total"]["grdResult"])
         found = differences(wanted, seen)
         if found:
             raise Difference(["message: " + line for line in found])

@@ -120,26 +120,28 @@ class User:
         if not fields:
             return
         name = self.random.choice(fields)
-        field = f"{form}.{name}"
-        self.click_on(form, name, f"click {field}")
+        self.click_on(form, name, f"click {form}.{name}")
+        for verb, text, *keys in self.strokes():
+            # A diameter that is too small takes the focus, and with it the keys.
+            if self.session.ended or not self.has_focus(form, name):
+                return
+            self.press_keys(f"{verb} {form}.{name}{text and ' ' + text}", *keys)
+
+    def strokes(self):
+        """What he does with the text of a field: verb, text, and the keys."""
         way = self.random.randrange(4)
         if way == 0:
-            self.press_keys(None, "End")
-            for _ in range(self.random.randrange(1, 4)):
-                self.press_keys(f"erase {field}", "\b")
-            return
+            keys = ["End", "\b"]
+            return [("erase", "", *keys) for _ in range(self.random.randrange(1, 4))]
         if way == 1:
-            self.press_keys(None, "End")
-            for _ in range(self.random.randrange(1, 3)):
-                letter = self.random.choice(LETTERS)
-                self.press_keys(f"type {field} {letter}", letter)
-            return
+            letters = [self.random.choice(LETTERS) for _ in range(self.random.randrange(1, 3))]
+            return [("type", letter, "End", letter) for letter in letters]
         word = self.random.choice(WORDS)
-        self.press_keys(f"set {field} {word[0]}", ("a", "Control_L"), word[0])
-        for letter in word[1:]:
-            if self.session.ended:
-                return
-            self.press_keys(f"type {field} {letter}", letter)
+        return [("set", word[0], ("a", "Control_L"), word[0]),
+                *(("type", letter, letter) for letter in word[1:])]
+
+    def has_focus(self, form, field):
+        return self.session.model.get(["Focus"])["Focus"] in (field, f"{form}.{field}")
 
     def step(self):
         form = self.front()
@@ -250,7 +252,10 @@ class User:
             self.session.move_to(*places[1])
             self.screen.release()
 
+        low, high = sorted([first, last])
+        self.session.asked_about = list(range(low + 1, high + 2))
         self.do([f"rows Total.grdResult {first + 1} {last + 1}"], drag)
+        self.session.asked_about = None
 
     def click_on_grid(self):
         """A click that marks no row."""
