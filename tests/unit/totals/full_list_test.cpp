@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <functional>
 #include <string>
 
+#include "../support/processor_time.h"
 #include "../support/test_program.h"
 #include "totals/calculation_list.h"
 #include "totals/total_form.h"
@@ -26,9 +26,9 @@ constexpr double kPatience = 5;
 #endif
 
 double Seconds_Of(const std::function<void()>& act) {
-  const auto begin = std::chrono::steady_clock::now();
+  ProcessorTime time;
   act();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+  return time.Restart();
 }
 
 class AFullList : public testing::Test {
