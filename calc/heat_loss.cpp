@@ -2,15 +2,10 @@
 
 #include <cmath>
 
+#include "calc/heat_loss_steps.h"
+
 namespace norvane {
 namespace {
-
-// Four decimals only: the program's answers have always been those of this value.
-constexpr double kPi = 3.1415;
-constexpr double kWattToKilojoulePerHour = 3.6;
-constexpr double kGasHeatingValue = 34880.0;  // kJ per m3
-constexpr double kOilHeatingValue = 43860.0;  // kJ per litre
-constexpr float kKilojoulePerKwh = 3600.0F;
 
 struct HeatFlow {
   float T_surf;
@@ -24,13 +19,8 @@ HeatFlow Through_Sheet(double dT, double T_amb, double d_ins, double lambda_T, d
           To_Single(Divide(dT, Divide(d_ins, lambda_T) + Divide(1.0, Alpha)))};
 }
 
-HeatFlow Through_Pipe(double dT, double T_amb, double d_ins, float D_field, double lambda_T,
-                      double Alpha) {
-  // The substitute is in metres where the field has millimetres: an empty diameter is a pipe of 10
-  // m.
-  const double D_pipe = D_field == 0 ? kEmptyDiameter : D_field;
-  const double D_out = To_Single(d_ins + d_ins + D_pipe);
-  const double L = Natural_Log(D_out / D_pipe);
+HeatFlow Through_Pipe(const HeatLossSteps& steps, double T_amb, double lambda_T, double Alpha) {
+  const auto& [T_mean, dT, D_pipe, D_out, L] = steps;
   return {To_Single(Divide(dT, Divide(Alpha, 2 * lambda_T) * D_out * L + 1.0) + T_amb),
           To_Single(dT * Alpha * kPi * D_pipe),
           To_Single(Divide(dT * kPi, Divide(1.0, 2 * lambda_T) * L + Divide(1.0, Alpha * D_out)))};
@@ -76,17 +66,30 @@ float Effective_Alpha(const std::string& alpha_text, std::int16_t Sel_Size, cons
   return Default_Alpha(Sel_Size);
 }
 
+HeatLossSteps Steps_Of(const HeatFlowInput& input) {
+  HeatLossSteps steps;
+  steps.T_mean = To_Single((input.T_med + input.T_amb) / 2.0);
+  steps.dT = input.T_med - input.T_amb;
+  if (input.Sel_Size == kSheet) return steps;
+  // The substitute is in metres where the field has millimetres: an empty diameter is a pipe of 10
+  // m.
+  steps.D_pipe = input.D_pipe == 0 ? kEmptyDiameter : input.D_pipe;
+  const double d_ins = input.d_ins;
+  steps.D_out = To_Single(d_ins + d_ins + steps.D_pipe);
+  steps.L = Natural_Log(steps.D_out / steps.D_pipe);
+  return steps;
+}
+
 HeatLossResult Heat_Loss(const HeatFlowInput& input) {
-  const double T_mean = To_Single((input.T_med + input.T_amb) / 2.0);
-  const double dT = input.T_med - input.T_amb;
+  const HeatLossSteps steps = Steps_Of(input);
 
   HeatLossResult result;
-  result.lambda_T = To_Single(T_mean * kLambdaSlope + input.Lambda);
+  result.lambda_T = To_Single(steps.T_mean * kLambdaSlope + input.Lambda);
   result.Alpha = input.Alpha;
   const HeatFlow flow =
       input.Sel_Size == kSheet
-          ? Through_Sheet(dT, input.T_amb, input.d_ins, result.lambda_T, result.Alpha)
-          : Through_Pipe(dT, input.T_amb, input.d_ins, input.D_pipe, result.lambda_T, result.Alpha);
+          ? Through_Sheet(steps.dT, input.T_amb, input.d_ins, result.lambda_T, result.Alpha)
+          : Through_Pipe(steps, input.T_amb, result.lambda_T, result.Alpha);
   result.T_surf = flow.T_surf;
   result.Q_bare = flow.Q_bare;
   result.Q_ins = flow.Q_ins;

@@ -6,7 +6,7 @@ namespace norvane {
 
 /// The columns that the input rows and the result rows share, so that all numbers of the main
 /// screen stand right-aligned under one another with their units beside them.
-enum Column {
+enum CardColumn {
   kLetterColumn,
   kHeadingColumn,
   kNumberColumn,

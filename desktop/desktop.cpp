@@ -182,6 +182,11 @@ void Desktop::Tick(TickTimer& timer) {
   Call([&] { program_.Tick(timer); });
 }
 
+void Desktop::Run(const std::function<void()>& procedure) {
+  if (program_.Ended()) return;
+  Call([&] { program_.Run(procedure); });
+}
+
 void Desktop::Fail() {
   if (program_.Ended()) return;  // while its last message is still to be read
   Call([this] { program_.Run([] { throw; }); });

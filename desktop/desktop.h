@@ -53,6 +53,8 @@ class Desktop : public Platform, public Display {
   /// Carries out what the user did and shows what came of it.
   void Answer(const UserEvent& event);
   void Tick(TickTimer& timer);
+  /// Runs a procedure in the way an event is carried out.
+  void Run(const std::function<void()>& procedure);
   /// Ends the program with the message of the exception that is being handled.
   void Fail();
   /// Closes what is in front, as the user would, one after the other, until the program has ended.

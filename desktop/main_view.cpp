@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "desktop/columns.h"
+#include "desktop/compare_window.h"
 #include "desktop/desktop.h"
 #include "desktop/input_card.h"
 #include "desktop/object_card.h"
@@ -35,6 +36,7 @@ MainView::MainView(Desktop& desktop, Warmt& warmt)
   for (CaptionField& heading : warmt.Label1) lettered.push_back(&heading);
   lettered.push_back(&warmt.cmdAdd);
   Give_Letters(lettered);
+  commands_->Add(TextId::kCompare, QKeySequence("Ctrl+T"), [this] { Compare(); });
 }
 
 QLayout* MainView::Make_Menu() {
@@ -82,6 +84,16 @@ void MainView::showEvent(QShowEvent* event) {
   if (focusWidget() == nullptr) Widget_Of(warmt_.txtT(0))->setFocus(Qt::OtherFocusReason);
 }
 
+void MainView::hideEvent(QHideEvent* event) {
+  FormView::hideEvent(event);
+  if (compare_ != nullptr && form() == nullptr) compare_->hide();
+}
+
+void MainView::Compare() {
+  if (compare_ == nullptr) compare_ = new CompareWindow(*this, warmt_);
+  compare_->Open();
+}
+
 void MainView::Arrange() {
   inputs_->Follow_Mode();
   results_->Follow_Mode();
@@ -90,6 +102,7 @@ void MainView::Arrange() {
   object_->Name_Fields();
   tools_->Name_Buttons();
   commands_->Follow_Language();
+  if (compare_ != nullptr) compare_->Follow();
   const Button& mode = warmt_.Calc_Mode == "T" ? warmt_.cmdToolBarT : warmt_.cmdToolBarC;
   results_->Name_Values(desktop().Text(warmt_.Tooltip_Of(mode)));
 }

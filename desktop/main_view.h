@@ -7,6 +7,7 @@ class QLayout;
 
 namespace norvane {
 
+class CompareWindow;
 class InputCard;
 class ObjectCard;
 class OwnCommands;
@@ -24,17 +25,20 @@ class MainView : public FormView {
  protected:
   void Arrange() override;
   void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
   QLayout* Make_Menu();
   QLayout* Make_Cards();
   QWidget* Make_Foot();
+  void Compare();
 
   Warmt& warmt_;
   ToolStrip* tools_;
   InputCard* inputs_;
   ResultCard* results_;
   ObjectCard* object_;
+  CompareWindow* compare_ = nullptr;  ///< made at its first use
   OwnCommands* commands_;
 };
 

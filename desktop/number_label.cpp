@@ -7,7 +7,7 @@ constexpr int kAround = 4;  // pixels
 
 }  // namespace
 
-NumberLabel::NumberLabel(QGridLayout& grid, int row, Column column) {
+NumberLabel::NumberLabel(QGridLayout& grid, int row, CardColumn column) {
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   setMargin(kAround);
   setFixedSize(kColumnWidth[column], kRowHeight);

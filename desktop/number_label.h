@@ -12,7 +12,7 @@ class NumberLabel : public QLabel {
   Q_OBJECT
 
  public:
-  NumberLabel(QGridLayout& grid, int row, Column column);
+  NumberLabel(QGridLayout& grid, int row, CardColumn column);
 
   void Show_Number(const QString& number);
 };

@@ -19,6 +19,28 @@ const char* In_English(TextId text) {
       return "Above the dew point";
     case TextId::kNoSaving:
       return "No saving";
+    case TextId::kCompare:
+      return "Compare";
+    case TextId::kEconomic:
+      return "economic";
+    case TextId::kPresentThickness:
+      return "current";
+    case TextId::kInsulationCost:
+      return "Insulation cost";
+    case TextId::kSavedPerYear:
+      return "Saved per year";
+    case TextId::kPaybackYears:
+      return "Payback (years)";
+    case TextId::kYearlyCost:
+      return "Yearly cost";
+    case TextId::kEnergyPrice:
+      return "Energy price";
+    case TextId::kYearsOfUse:
+      return "Years of use";
+    case TextId::kUseThickness:
+      return "Use this thickness";
+    case TextId::kCopy:
+      return "Copy";
     default:
       return "";
   }

@@ -66,7 +66,8 @@ QLabel* ResultCard::Add_Label(QGridLayout& grid, int place, int column, CaptionF
   return label;
 }
 
-QLabel* ResultCard::Add_Number(QGridLayout& grid, int place, Column column, CaptionField& field) {
+QLabel* ResultCard::Add_Number(QGridLayout& grid, int place, CardColumn column,
+                               CaptionField& field) {
   auto* number = new NumberLabel(grid, place, column);
   view_.Bind<NumberBinder>(field, *number);
   return number;

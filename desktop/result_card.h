@@ -47,7 +47,7 @@ class ResultCard : public Card {
   void Add_Row(QGridLayout& grid, int place, int heading, int value);
   void Add_Savings_Heading(QGridLayout& grid, int place);
   QLabel* Add_Label(QGridLayout& grid, int place, int column, CaptionField& field);
-  QLabel* Add_Number(QGridLayout& grid, int place, Column column, CaptionField& field);
+  QLabel* Add_Number(QGridLayout& grid, int place, CardColumn column, CaptionField& field);
 
   FormView& view_;
   Warmt& warmt_;

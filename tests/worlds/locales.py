@@ -16,9 +16,9 @@ LOCALES = [
     "ar_EG",  # other digits
 ]
 AT_ONCE = 4  # the tests wait more than they calculate
-NUMBERS = ["typing", "settings", "totals"]  # the windows that show the most of them
+NUMBERS = ["typing", "settings", "totals", "compare"]  # the windows that show the most of them
 ALL_WINDOWS = ["typing", "spinning", "states", "toolbar", "settings", "totals", "sessions",
-               "start_and_end", "languages", "courtesies", "addresses"]
+               "start_and_end", "languages", "courtesies", "addresses", "compare"]
 OFFICES = ["export", "workbook_file"]
 
 

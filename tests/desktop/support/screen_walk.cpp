@@ -6,6 +6,8 @@
 #include <QTableView>
 #include <QTest>
 
+#include "report/kept_prices.h"
+
 namespace norvane {
 namespace {
 
@@ -37,6 +39,7 @@ void ScreenWalk::Walk_In(const std::string& code) {
   Walk_Through_Settings();
   Save_Lines();
   Walk_Through_Totals();
+  Walk_Through_Comparison();
   Walk_Through_Tooltips();
   Walk_Through_Large_Values();
   Walk_Through_Question_Of_Language(code);
@@ -174,6 +177,19 @@ void ScreenWalk::Save_Lines() {
     Click(Screen().cmdAdd);
   }
   Show("lines-saved", Screen());
+}
+
+void ScreenWalk::Walk_Through_Comparison() {
+  Change_Prices(desktop.files(), [](Prices& prices) {
+    prices.energy[0] = 1.2;
+    prices.of_pipe = {{13, 4.2}, {20, 5.5}, {30, 8.9}};
+  });
+  Press(Qt::Key_T, Qt::ControlModifier);
+  auto* comparison = Main_View().findChild<QWidget*>("compare");
+  ASSERT_TRUE(comparison != nullptr && Comes_To_Front(*comparison)) << "no comparison";
+  Show("comparison", *comparison);
+  Press(Qt::Key_Escape);
+  Wait_Until_Active(Screen());
 }
 
 void ScreenWalk::Open_Totals() {
