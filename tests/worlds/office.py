@@ -6,8 +6,8 @@ import subprocess
 
 from program import PATIENCE, Skipped
 
-ROUNDS = 20
-EXPORTS = 25  # of a round
+ROUNDS = 50
+EXPORTS = 10  # of a round, which ends within some minutes on a busy machine too
 
 
 def chaos(program):
