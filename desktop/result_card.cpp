@@ -7,8 +7,11 @@
 #include <algorithm>
 
 #include "desktop/accessible.h"
+#include "desktop/answer_line.h"
 #include "desktop/colours.h"
 #include "desktop/columns.h"
+#include "desktop/desktop.h"
+#include "desktop/dew_rows.h"
 #include "desktop/form_view.h"
 #include "desktop/number_label.h"
 #include "desktop/screen_chart.h"
@@ -24,21 +27,24 @@ constexpr int kChartColumn = kSecondUnitColumn + 1;
 }  // namespace
 
 ResultCard::ResultCard(FormView& view, Warmt& warmt)
-    : view_(view), warmt_(warmt), chart_(new ScreenChart(view, warmt)) {
+    : view_(view), warmt_(warmt), answer_(new AnswerLine), chart_(new ScreenChart(view, warmt)) {
   setFocusPolicy(Qt::StrongFocus);
   auto* grid = new QGridLayout(this);
   Lay_Out_Columns(*grid);
   grid->setVerticalSpacing(0);
-  Add_Letters(*grid);
   int place = 0;
+  grid->addWidget(answer_, place++, 0, 1, kSecondNumberColumn + 1);
+  Add_Letters(*grid, place);
   for (int row = 0; row < kSavingRow; ++row) Add_Row(*grid, place++, row, row);
   Add_Savings_Heading(*grid, place);
   place += 2;
   // From the savings on the values run one ahead of the headings.
   for (int row = kSavingRow; row <= kLastRow; ++row) Add_Row(*grid, place++, row, row + 1);
-  grid->setRowStretch(place, 1);
-  Add_Chart(*grid, place + 1);
-  setMinimumHeight((kLastRow + 2) * kRowHeight + 30);
+  dew_point_ = std::make_unique<DewRows>(*grid, place);
+  place += DewRows::kRows;
+  grid->setRowStretch(place - 1, 1);
+  Add_Chart(*grid, place);
+  setMinimumHeight(AnswerLine::kHeight + (kLastRow + 2) * kRowHeight + 30);
 }
 
 void ResultCard::Add_Chart(QGridLayout& grid, int rows) {
@@ -51,10 +57,10 @@ void ResultCard::Add_Chart(QGridLayout& grid, int rows) {
   grid.addWidget(chart_, 0, kChartColumn, rows, 1);
 }
 
-void ResultCard::Add_Letters(QGridLayout& grid) {
+void ResultCard::Add_Letters(QGridLayout& grid, int place) {
   for (const int row : {0, 1}) {
     auto* letter = new QLabel;
-    grid.addWidget(letter, row, kLetterColumn);
+    grid.addWidget(letter, place + row, kLetterColumn);
     view_.Bind<SymbolBinder>(warmt_.Label2(row), *letter);
   }
 }
@@ -97,8 +103,13 @@ void ResultCard::Add_Savings_Heading(QGridLayout& grid, int place) {
 
 void ResultCard::Follow_Mode() {
   line_->setVisible(warmt_.Label6.Visible());
+  const QFont& font = rows_.front().heading->font();
+  answer_->Follow(view_.desktop(), warmt_, font);
+  dew_point_->Follow(view_.desktop(), warmt_, font);
   chart_->Follow();
 }
+
+ResultCard::~ResultCard() = default;
 
 void ResultCard::Name_Values(const QString& mode) {
   for (const Row& row : rows_) {

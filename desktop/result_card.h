@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <memory>
 #include <vector>
 
 #include "desktop/card.h"
@@ -9,19 +10,22 @@
 namespace norvane {
 
 class CaptionField;
+class AnswerLine;
+class DewRows;
 class FormView;
 class ScreenChart;
 class Warmt;
 
-/// The result rows of the main screen, and the chart beside them. With the focus, Ctrl+C copies
-/// those that show as text.
+/// The main result in large letters, the result rows of the main screen, and the chart beside them.
+/// With the focus, Ctrl+C copies those that show as text.
 class ResultCard : public Card {
   Q_OBJECT
 
  public:
   ResultCard(FormView& view, Warmt& warmt);
+  ~ResultCard() override;
 
-  /// Shows the line above the savings while they show, and the chart of what the results are for.
+  /// Shows what there is in the mode, and brings up to date what isn't a field of the screen.
   void Follow_Mode();
   /// Gives each value the words that a screen reader tells when it has changed.
   void Name_Values(const QString& mode);
@@ -43,7 +47,7 @@ class ResultCard : public Card {
   };
 
   void Add_Chart(QGridLayout& grid, int rows);
-  void Add_Letters(QGridLayout& grid);
+  void Add_Letters(QGridLayout& grid, int place);
   void Add_Row(QGridLayout& grid, int place, int heading, int value);
   void Add_Savings_Heading(QGridLayout& grid, int place);
   QLabel* Add_Label(QGridLayout& grid, int place, int column, CaptionField& field);
@@ -53,6 +57,8 @@ class ResultCard : public Card {
   Warmt& warmt_;
   CardRule* line_ = nullptr;
   QLabel* savings_heading_ = nullptr;
+  AnswerLine* answer_;
+  std::unique_ptr<DewRows> dew_point_;
   ScreenChart* chart_;
   std::vector<Row> rows_;
 };

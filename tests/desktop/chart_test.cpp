@@ -145,6 +145,32 @@ TEST_F(Charting, Shows_Nothing_While_There_Is_Nothing_To_Calculate) {
   EXPECT_FALSE(Shown_Chart().lines.empty());
 }
 
+TEST_F(Charting, Stands_Beside_The_Answer_In_Large_Letters) {
+  const auto label = [this](const char* name) {
+    return Main_View().findChild<QLabel*>(name)->text();
+  };
+  Paste(Screen().txtT(3), "21");
+  Paste(Screen().txtT(2), "13");
+  EXPECT_EQ(label("answer"), "17.0 W/m");
+  EXPECT_EQ(label("answer_remark"), "Saving 68%");
+  EXPECT_FALSE(Main_View().findChild<QLabel*>("dew_point")->isVisible());
+  Click(Screen().cmdToolBar1(1));
+  Paste(Screen().txtT(2), "1");
+  EXPECT_EQ(label("answer_remark"), "No saving");
+  Click(Screen().cmdToolBar1(0));
+  Click(Screen().cmdToolBarC);
+  EXPECT_EQ(label("answer"), "1.7 mm");
+  EXPECT_EQ(label("answer_remark"), "Next size: 6 mm");
+  EXPECT_EQ(label("dew_point"), "15.8");
+  EXPECT_EQ(label("above_dew_point"), "0.0");
+  EXPECT_TRUE(Main_View().findChild<QWidget*>("wall_section")->isVisible());
+  Mark(Screen().txtC(3));
+  Type("4");
+  EXPECT_EQ(label("answer"), "");
+  EXPECT_EQ(label("answer_remark"), "");
+  EXPECT_FALSE(Main_View().findChild<QLabel*>("dew_point")->isVisible());
+}
+
 TEST_F(Charting, Speaks_The_Language_That_Is_Chosen) {
   Click(Screen().lblMenu(1));
   Wait_Until_Active(*State().forms.lang);
