@@ -23,6 +23,7 @@
 #include "desktop/views.h"
 #include "frame/version.h"
 #include "host/code_page.h"
+#include "screen/warmt.h"
 #include "totals/calculation_list.h"
 
 namespace norvane {
@@ -78,7 +79,10 @@ int Ask(QMessageBox& box) {
 }  // namespace
 
 Desktop::Desktop(const std::filesystem::path& folder, const SpreadsheetMaker& make_spreadsheet)
-    : files_(folder), spreadsheet_(make_spreadsheet(folder, busy_)), program_(*this) {
+    : folder_(folder),
+      files_(folder),
+      spreadsheet_(make_spreadsheet(folder, busy_)),
+      program_(*this) {
   // Qt never forgets the name of a picture that it kept of a part of a window, and there is one for
   // each part, size, state and palette. To paint a button anew takes some hundredths of a
   // millisecond.
@@ -174,6 +178,7 @@ void Desktop::Start() {
 
 void Desktop::Answer(const UserEvent& event) {
   if (program_.Ended()) return;  // while its last message is still to be read
+  if (may_leave_ && Leads_Out(event) && !may_leave_()) return;
   Call([&] { program_.Dispatch(event); });
 }
 
@@ -201,6 +206,7 @@ void Desktop::Close_Front_Window() {
 void Desktop::End_Session() {
   constexpr int kAttempts = 8;
   windows_left_ = kAttempts;
+  may_leave_ = nullptr;
   Close_One_More_Window();
 }
 

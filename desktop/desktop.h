@@ -63,6 +63,12 @@ class Desktop : public Platform, public Display {
   /// Brings all windows up to date with their forms.
   void Show_Changes();
 
+  /// What the user does to leave the program is carried out when `may_leave` says so. At the end of
+  /// a session nobody is asked.
+  void Ask_Before_Leaving(const std::function<bool()>& may_leave) { may_leave_ = may_leave; }
+
+  /// The program's folder.
+  const std::filesystem::path& Folder() const { return folder_; }
   Program& program() { return program_; }
   /// The window of a form, or null while the form isn't loaded.
   FormView* View_Of(const Form& form) const;
@@ -85,6 +91,7 @@ class Desktop : public Platform, public Display {
   void Close_One_More_Window();
   void Decode_Anew_At_Need();
 
+  std::filesystem::path folder_;
   DiskFiles files_;
   Busy busy_;
   std::unique_ptr<Spreadsheet> spreadsheet_;
@@ -95,6 +102,7 @@ class Desktop : public Platform, public Display {
   int yields_ = 0;  ///< calls of Let_Events_Run under way
   QTimer session_end_;
   int windows_left_ = 0;  ///< to be closed at the end of the session
+  std::function<bool()> may_leave_;
   Program program_;
 };
 

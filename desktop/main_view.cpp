@@ -11,6 +11,7 @@
 #include "desktop/object_card.h"
 #include "desktop/own_commands.h"
 #include "desktop/result_card.h"
+#include "desktop/schedule/schedule_window.h"
 #include "desktop/tool_strip.h"
 
 namespace norvane {
@@ -37,6 +38,19 @@ MainView::MainView(Desktop& desktop, Warmt& warmt)
   lettered.push_back(&warmt.cmdAdd);
   Give_Letters(lettered);
   commands_->Add(TextId::kCompare, QKeySequence("Ctrl+T"), [this] { Compare(); });
+
+  commands_->Add(TextId::kSchedule, Qt::CTRL | Qt::Key_L, [this] { Show_Schedule(); });
+  desktop.Ask_Before_Leaving(
+      [this] { return schedule_ == nullptr || schedule_->Let_Go_Of_Changes(); });
+}
+
+MainView::~MainView() { desktop().Ask_Before_Leaving({}); }
+
+void MainView::Show_Schedule() {
+  if (schedule_ == nullptr) {
+    schedule_ = std::make_unique<ScheduleWindow>(desktop(), desktop().Folder());
+  }
+  schedule_->Come_Forward();
 }
 
 QLayout* MainView::Make_Menu() {
@@ -103,6 +117,7 @@ void MainView::Arrange() {
   tools_->Name_Buttons();
   commands_->Follow_Language();
   if (compare_ != nullptr) compare_->Follow();
+  if (schedule_ != nullptr) schedule_->Follow_Language();
   const Button& mode = warmt_.Calc_Mode == "T" ? warmt_.cmdToolBarT : warmt_.cmdToolBarC;
   results_->Name_Values(desktop().Text(warmt_.Tooltip_Of(mode)));
 }

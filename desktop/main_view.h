@@ -12,6 +12,7 @@ class InputCard;
 class ObjectCard;
 class OwnCommands;
 class ResultCard;
+class ScheduleWindow;
 class ToolStrip;
 
 /// The main screen: menu labels and toolbar strip on top, input rows beside the insulated object,
@@ -21,6 +22,7 @@ class MainView : public FormView {
 
  public:
   MainView(Desktop& desktop, Warmt& warmt);
+  ~MainView() override;
 
  protected:
   void Arrange() override;
@@ -32,6 +34,7 @@ class MainView : public FormView {
   QLayout* Make_Cards();
   QWidget* Make_Foot();
   void Compare();
+  void Show_Schedule();
 
   Warmt& warmt_;
   ToolStrip* tools_;
@@ -40,6 +43,7 @@ class MainView : public FormView {
   ObjectCard* object_;
   CompareWindow* compare_ = nullptr;  ///< made at its first use
   OwnCommands* commands_;
+  std::unique_ptr<ScheduleWindow> schedule_;  ///< once it was asked for
 };
 
 }  // namespace norvane

@@ -41,6 +41,38 @@ const char* In_English(TextId text) {
       return "Use this thickness";
     case TextId::kCopy:
       return "Copy";
+    case TextId::kSchedule:
+      return "Schedule";
+    case TextId::kAddPresent:
+      return "Add the present calculation";
+    case TextId::kDuplicate:
+      return "Duplicate";
+    case TextId::kDelete:
+      return "Delete";
+    case TextId::kMove:
+      return "Move";
+    case TextId::kName:
+      return "Name";
+    case TextId::kUndo:
+      return "Undo";
+    case TextId::kRedo:
+      return "Redo";
+    case TextId::kNew:
+      return "New";
+    case TextId::kOpen:
+      return "Open";
+    case TextId::kSave:
+      return "Save";
+    case TextId::kDiscard:
+      return "Don't save";
+    case TextId::kKeepChanges:
+      return "Keep the changes?";
+    case TextId::kRecovered:
+      return "Recovered changes, not saved yet";
+    case TextId::kUnusableFile:
+      return "The file can't be used.";
+    case TextId::kRemark:
+      return "Remark";
     default:
       return "";
   }

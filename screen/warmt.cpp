@@ -3,6 +3,7 @@
 #include "frame/language.h"
 #include "frame/settings_file.h"
 #include "frame/shared_state.h"
+#include "screen/model/user_event.h"
 #include "totals/calculation_list.h"
 #include "totals/total_form.h"
 
@@ -46,6 +47,14 @@ void Warmt::Leave() {
   module1_.forms.warmt.Unload();
   module1_.forms.total.Unload();
   module1_.desk.Quit();
+}
+
+bool Leads_Out(const UserEvent& event) {
+  constexpr int kExitEntry = 3;
+  auto* const warmt = dynamic_cast<Warmt*>(&event.form);
+  if (warmt == nullptr) return false;
+  return event.action == UserAction::kCloseBox ||
+         (event.action == UserAction::kClick && event.field == &warmt->lblMenu(kExitEntry));
 }
 
 }  // namespace norvane

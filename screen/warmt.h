@@ -14,6 +14,7 @@
 namespace norvane {
 
 struct Module1;
+struct UserEvent;
 
 /// The main screen. Input rows have the same index in all their arrays: 0 medium temperature
 /// (degrees Celsius), 1 ambient temperature, 2 insulation thickness (mm), 3 pipe diameter (mm),
@@ -197,5 +198,9 @@ class Warmt : public Form {
   std::map<const Button*, TextId> tooltips_;
   int changes_ = 0;  ///< handlers of `txtT` and `txtC` under way, inside each other
 };
+
+/// Whether what a user does ends the program, unless it is refused.
+/// @param event of any form
+bool Leads_Out(const UserEvent& event);
 
 }  // namespace norvane

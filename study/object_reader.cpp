@@ -17,7 +17,8 @@ const Column* Find_Column(std::string_view name) {
 
 bool Is_Empty(std::string_view field) { return field.find_first_not_of(" \t\"") == field.npos; }
 
-/// -1 for a word that is no kind.
+}  // namespace
+
 std::int16_t Kind_Of(std::string_view field) {
   const std::string text = Field_Text(Trim(field, " \t"));
   for (std::size_t kind = 0; kind < kKindWords.size(); ++kind) {
@@ -28,8 +29,6 @@ std::int16_t Kind_Of(std::string_view field) {
   }
   return -1;
 }
-
-}  // namespace
 
 ObjectReader::ObjectReader(std::span<const std::string_view> header, char decimal,
                            Question question)

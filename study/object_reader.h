@@ -11,6 +11,10 @@
 
 namespace norvane {
 
+/// The kind that a field of the column `kind` tells; -1 for a word that is none.
+/// @param field as it stands, with its quotes
+std::int16_t Kind_Of(std::string_view field);
+
 /// Reads the objects of a schedule's rows: which field belongs to which column is told by the
 /// header, in any order, and columns of other names are passed over.
 class ObjectReader {

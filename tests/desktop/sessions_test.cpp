@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QListView>
@@ -6,6 +7,7 @@
 #include <algorithm>
 #include <set>
 
+#include "desktop/own_commands.h"
 #include "desktop/result_card.h"
 #include "window_test.h"
 
@@ -39,6 +41,10 @@ class Sessions : public WindowTest {
   std::set<const QWidget*> Controls() {
     // The results can be copied.
     std::set<const QWidget*> controls{Main_View().findChild<ResultCard*>()};
+    for (const auto* word :
+         Main_View().findChild<OwnCommands*>()->findChildren<QAbstractButton*>()) {
+      controls.insert(word);
+    }
     for (const Field* field : Screen().Fields()) {
       const QWidget* widget = Main_View().Widget_Of(*field);
       if (widget == nullptr || !widget->isVisible()) continue;

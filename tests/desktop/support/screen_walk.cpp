@@ -5,7 +5,9 @@
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
+#include <algorithm>
 
+#include "desktop/schedule/schedule_window.h"
 #include "report/kept_prices.h"
 
 namespace norvane {
@@ -42,6 +44,7 @@ void ScreenWalk::Walk_In(const std::string& code) {
   Walk_Through_Comparison();
   Walk_Through_Tooltips();
   Walk_Through_Large_Values();
+  Walk_Through_Schedule();
   Walk_Through_Question_Of_Language(code);
 }
 
@@ -251,6 +254,45 @@ void ScreenWalk::Walk_Through_Large_Values() {
   Open_Totals();
   Show("totals-of-large-values", Totals());
   View(Totals()).close();
+  Wait_Until_Active(Screen());
+}
+
+void ScreenWalk::Walk_Through_Schedule() {
+  Set_Inputs(kKinds[0].inputs);
+  Press(Qt::Key_L, Qt::ControlModifier);
+  const auto windows = QApplication::topLevelWidgets();
+  const auto found = std::find_if(windows.begin(), windows.end(), [](QWidget* window) {
+    return qobject_cast<ScheduleWindow*>(window) != nullptr;
+  });
+  ASSERT_NE(found, windows.end()) << "no schedule";
+  QWidget& schedule = **found;
+  ASSERT_TRUE(Comes_To_Front(schedule));
+  for (int row = 0; row < 3; ++row) Press(Qt::Key_Return, Qt::ControlModifier);
+  Settle();
+  Hover(schedule, {3, 3});
+  // A row without a result says why.
+  auto& table = *schedule.findChild<QTableView*>();
+  QAbstractItemModel& rows = *table.model();
+  constexpr int kKind = 1;
+  constexpr int kMedium = 2;
+  rows.setData(rows.index(1, kMedium), "400");
+  rows.setData(rows.index(2, kKind), "sheet");
+  table.setCurrentIndex(rows.index(1, kMedium));
+  Press(Qt::Key_Tab);
+  Show("schedule", schedule);
+  table.scrollTo(rows.index(1, rows.columnCount() - 1));
+  Show("schedule-results", schedule);
+  watchdog.Expect([this](QWidget& box) {
+    Show("question-schedule", box);
+    const auto buttons = dynamic_cast<QMessageBox&>(box).buttons();
+    for (QAbstractButton* button : buttons) {
+      if (dynamic_cast<QMessageBox&>(box).buttonRole(button) == QMessageBox::DestructiveRole) {
+        return Click(*button);
+      }
+    }
+  });
+  schedule.close();
+  Main_View().activateWindow();
   Wait_Until_Active(Screen());
 }
 

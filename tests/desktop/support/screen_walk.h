@@ -42,6 +42,7 @@ class ScreenWalk : public DesktopTest {
   void Walk_Through_Tooltips();
   void Show_Tooltip(const std::string& name, const Button& button);
   void Walk_Through_Large_Values();
+  void Walk_Through_Schedule();
   void Walk_Through_Question_Of_Language(const std::string& code);
   void Set_Inputs(const QStringList& medium_ambient_diameter_thickness);
   void Open_Totals();
