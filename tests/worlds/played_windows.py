@@ -59,7 +59,7 @@ class Played:
         names = sorted(os.listdir(self.folder))
         run = subprocess.run(
             [self.folder / "norvane"], stdout=subprocess.PIPE, stderr=subprocess.PIPE,
-            timeout=PATIENCE / 5, cwd=self.folder, check=False,
+            timeout=PATIENCE, cwd=self.folder, check=False,
             env={**self._screen.environment, "TMPDIR": str(self.temporary),
                  "PATH": f"{self._tools}:{os.environ['PATH']}",
                  "OPENED": str(self._tools / "opened"), **self._environment}, **options)

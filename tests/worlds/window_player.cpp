@@ -23,9 +23,9 @@
 
 namespace {
 
-constexpr int kMoment = 5;         // milliseconds between two looks
-constexpr int kPatience = 30'000;  // milliseconds for one step
-constexpr int kStuck = 9;          // exit status
+constexpr int kMoment = 5;          // milliseconds between two looks
+constexpr int kPatience = 120'000;  // milliseconds for one step
+constexpr int kStuck = 9;           // exit status
 
 QWidget* Shown(const QString& name) {
   const QWidget* modal = QApplication::activeModalWidget();
