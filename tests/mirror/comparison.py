@@ -1,7 +1,7 @@
 """What the model says that a person sees, and what the bus and the display tell, side by side."""
 
 import accessible
-from windows import FORMS, TOOLS, fields_of
+from windows import FORMS, OWN, TOOLS, fields_of
 
 TWIPS = 15  # a pixel
 GREEK = {"l": "\u03bb", "a": "\u03b1"}
@@ -14,7 +14,7 @@ def truth(text):
 
 def is_part(field):
     """Fields that are parts of others, or none of the model's."""
-    return field == "rule" or field.endswith((".up", ".down"))
+    return field in ("rule", *OWN) or field.endswith((".up", ".down"))
 
 
 def attributes(kind, field):
@@ -136,6 +136,8 @@ class Wanted:
         return text(field)
 
     def of_field(self, told, form, kind, field):
+        if field in OWN:
+            return
         key = f"{form}.{field}"
         visible = self.visible(form, field)
         if kind == "l":
