@@ -11,6 +11,9 @@ struct Limits {
 /// Medium (0) and ambient temperature (1), degrees Celsius.
 inline constexpr Limits kTemperatureLimits[] = {{-50, 115}, {-60, 110}};
 
+/// What a click on the arrows of these two changes, degrees Celsius.
+inline constexpr double kTemperatureStep = 5;
+
 /// Thickness of the insulation, mm.
 inline constexpr double kMostThickness = 100;
 

@@ -2,7 +2,13 @@
 
 #include <exception>
 
+#include "desktop/spoken/widgets.h"
+
 namespace norvane {
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+  Use_Spoken_Widgets();
+}
 
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {

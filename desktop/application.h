@@ -10,7 +10,7 @@ namespace norvane {
 /// again.
 class Application : public QApplication {
  public:
-  using QApplication::QApplication;
+  Application(int& argc, char** argv);
 
   void Set_Failure(std::function<void()> on_failure) { on_failure_ = std::move(on_failure); }
 

@@ -2,11 +2,11 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 
 #include "desktop/desktop.h"
 #include "desktop/enter.h"
 #include "desktop/form_view.h"
+#include "desktop/number_edit.h"
 #include "desktop/own_texts.h"
 #include "desktop/picker.h"
 #include "desktop/picker_arrow.h"
@@ -14,10 +14,23 @@
 
 namespace norvane {
 
-void InputPicker::Offer(QLineEdit& edit, const InputRow& row) {
+Choices InputPicker::Choices_Of(const InputRow& row) const {
+  return norvane::Choices_Of(warmt_, row, view_.desktop().program().State().Sel_Size);
+}
+
+void InputPicker::Offer(NumberEdit& edit, const InputRow& row) {
   const Offered offered{row, &edit, new PickerArrow(edit)};
   offered_.push_back(offered);
   connect(offered.arrow, &PickerArrow::clicked, this, [this, offered] { Open(offered); });
+  edit.Give_Steps([this, &edit, row]() -> NumberSteps {
+    // A field that doesn't show may be one that the kind of object has no sizes for.
+    if (!edit.isVisible()) return {};
+    const Choices choices = Choices_Of(row);
+    return {choices.limits.least, choices.limits.most, choices.step};
+  });
+  connect(&edit, &NumberEdit::Value_Asked_For, this, [this, &edit, row](double value) {
+    if (edit.isVisible()) Enter(view_, warmt_, row, Text_To_Enter(value, Choices_Of(row)));
+  });
 }
 
 void InputPicker::Name_Arrows() {
@@ -40,7 +53,7 @@ void InputPicker::Open(const Offered& offered) {
   const Module1& state = view_.desktop().program().State();
   const int index = offered.row.index;
   PickerSubject subject;
-  subject.choices = Choices_Of(warmt_, offered.row, state.Sel_Size);
+  subject.choices = Choices_Of(offered.row);
   subject.locale = state.Locale();
   subject.name = desktop.Text(warmt_.Label1(index).Caption());
   subject.text = offered.edit->text();

@@ -5,11 +5,10 @@
 
 #include "screen/choices.h"
 
-class QLineEdit;
-
 namespace norvane {
 
 class FormView;
+class NumberEdit;
 class Picker;
 class PickerArrow;
 class Warmt;
@@ -23,19 +22,20 @@ class InputPicker : public QObject {
  public:
   InputPicker(FormView& view, Warmt& warmt) : view_(view), warmt_(warmt) {}
 
-  /// Gives a field its arrow.
-  void Offer(QLineEdit& edit, const InputRow& row);
+  /// Gives a field its arrow, and the steps that a screen reader is told.
+  void Offer(NumberEdit& edit, const InputRow& row);
   /// Gives each arrow the name of its field's heading.
   void Name_Arrows();
 
  private:
   struct Offered {
     InputRow row;
-    QLineEdit* edit;
+    NumberEdit* edit;
     PickerArrow* arrow;
   };
 
   void Open(const Offered& offered);
+  Choices Choices_Of(const InputRow& row) const;
   void Take(const std::string& text);
   void Pass(bool forward);
 

@@ -1,5 +1,6 @@
 #include "desktop/number_edit.h"
 
+#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -16,6 +17,20 @@ constexpr int kWidthInDigits = 9;
 
 NumberEdit::NumberEdit(QWidget* parent) : QLineEdit(parent) {
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
+    if (!Has_Steps() || !QAccessible::isActive()) return;
+    QAccessibleValueChangeEvent changed(this, text);
+    QAccessible::updateAccessibility(&changed);
+  });
+}
+
+QRect NumberEdit::Letter(int offset) const {
+  const QFontMetrics letters = fontMetrics();
+  const auto width_up_to = [&](int end) { return letters.horizontalAdvance(text().left(end)); };
+  // The text stands at the right, a short way off the edge.
+  const int origin = cursorRect().center().x() - width_up_to(cursorPosition());
+  const int left = origin + width_up_to(offset);
+  return {left, cursorRect().top(), origin + width_up_to(offset + 1) - left, letters.height()};
 }
 
 QSize NumberEdit::sizeHint() const {

@@ -52,7 +52,7 @@ ObjectCard::ObjectCard(FormView& view, Warmt& warmt)
 void ObjectCard::Name_Fields() {
   const Module1& module1 = view_.desktop().program().State();
   const QString kind = view_.desktop().Text(warmt_.Label0.Caption());
-  Tell(*view_.Widget_Of(warmt_.Combo1), kind);
+  Tell(*view_.Widget_Of(warmt_.Combo1), view_.desktop().Text(module1.Text(TextId::kProductColumn)));
   // Which of the twenty pictures it is, as a number: no language has words for them.
   Tell(*view_.Widget_Of(warmt_.Picture2),
        QString("%1 %2").arg(kind).arg(warmt_.Picture2.Picture()));

@@ -73,6 +73,8 @@ const char* In_English(TextId text) {
       return "The file can't be used.";
     case TextId::kRemark:
       return "Remark";
+    case TextId::kDeleteMarkedLines:
+      return "Delete marked lines";
     default:
       return "";
   }

@@ -15,11 +15,15 @@
 #include "desktop/form_view.h"
 #include "desktop/number_label.h"
 #include "desktop/screen_chart.h"
+#include "desktop/spoken/announcement.h"
 #include "screen/warmt.h"
 
 namespace norvane {
 namespace {
 
+constexpr int kSurfaceRow = 2;
+constexpr int kInsulatedRow = 4;
+constexpr int kThickness = 2;  // among the fields of condensation
 constexpr int kSavingRow = 5;  // the first of the savings, which has a percentage too
 constexpr int kLastRow = 8;
 constexpr int kChartColumn = kSecondUnitColumn + 1;
@@ -43,6 +47,7 @@ ResultCard::ResultCard(FormView& view, Warmt& warmt)
   dew_point_ = std::make_unique<DewRows>(*grid, place);
   place += DewRows::kRows;
   grid->setRowStretch(place - 1, 1);
+  announcement_ = new Announcement(this);
   Add_Chart(*grid, place);
   setMinimumHeight(AnswerLine::kHeight + (kLastRow + 2) * kRowHeight + 30);
 }
@@ -120,6 +125,15 @@ void ResultCard::Name_Values(const QString& mode) {
     }
   }
   Tell(*this, mode, As_Text());
+  announcement_->Say(Main_Result());
+}
+
+QString ResultCard::Main_Result() const {
+  if (rows_[kSurfaceRow].value->text().isEmpty()) return {};  // nothing to calculate
+  if (warmt_.Calc_Mode == "T") return rows_[kInsulatedRow].value->accessibleName();
+  const auto text = [this](const std::string& bytes) { return view_.desktop().Text(bytes); };
+  return text(warmt_.Label1(kThickness).Caption()) + ": " + text(warmt_.txtC(kThickness).Text()) +
+         ' ' + text(warmt_.Label7(kThickness).Caption());
 }
 
 QString ResultCard::As_Text() const {

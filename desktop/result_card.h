@@ -9,6 +9,7 @@
 
 namespace norvane {
 
+class Announcement;
 class CaptionField;
 class AnswerLine;
 class DewRows;
@@ -27,7 +28,8 @@ class ResultCard : public Card {
 
   /// Shows what there is in the mode, and brings up to date what isn't a field of the screen.
   void Follow_Mode();
-  /// Gives each value the words that a screen reader tells when it has changed.
+  /// Gives each value the words that a screen reader tells when it has changed, and has it say the
+  /// main result of the mode when that is a new one.
   void Name_Values(const QString& mode);
 
   /// The rows that show, in aligned columns, a line each.
@@ -47,6 +49,7 @@ class ResultCard : public Card {
   };
 
   void Add_Chart(QGridLayout& grid, int rows);
+  QString Main_Result() const;
   void Add_Letters(QGridLayout& grid, int place);
   void Add_Row(QGridLayout& grid, int place, int heading, int value);
   void Add_Savings_Heading(QGridLayout& grid, int place);
@@ -61,6 +64,7 @@ class ResultCard : public Card {
   std::unique_ptr<DewRows> dew_point_;
   ScreenChart* chart_;
   std::vector<Row> rows_;
+  Announcement* announcement_;
 };
 
 }  // namespace norvane

@@ -24,7 +24,8 @@ class RowTable : public QTableView {
   void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
  signals:
-  /// A button of the mouse, whichever, was let go anywhere in the table, or Delete was pressed.
+  /// A button of the mouse, whichever, was let go anywhere in the table, or Delete or a button was
+  /// pressed.
   void Picked();
   void Copy_Asked();
 

@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
 
 #include "desktop/accessible.h"
 #include "desktop/card.h"
@@ -73,6 +75,12 @@ void SettingsView::Add_Saving_Row(QGridLayout& grid, int row, CaptionField& head
   grid.addWidget(edit, row, 1);
   label->setBuddy(edit);
   Bind<TextBinder>(field, *edit, &stepper);
+  const NumberSteps steps{static_cast<double>(stepper.Least()), static_cast<double>(stepper.Most()),
+                          1};
+  edit->Give_Steps([steps] { return steps; });
+  connect(edit, &NumberEdit::Value_Asked_For, this, [this, steps, &field](double value) {
+    Send_Text(field, QString::number(std::lround(std::clamp(value, steps.least, steps.most))));
+  });
   auto* arrows = new SpinArrows;
   grid.addWidget(arrows, row, 2);
   Bind<SpinBinder>(stepper, *arrows);

@@ -40,11 +40,12 @@ ToolStrip::ToolStrip(FormView& view, Warmt& warmt)
 void ToolStrip::Add_Group(QBoxLayout& row, const std::vector<std::pair<Button*, ToolSign>>& group) {
   constexpr int kBetweenGroups = 14;
   if (row.count() > 0) row.addSpacing(kBetweenGroups);
-  for (const auto& [field, sign] : group) Add_Button(row, *field, sign);
+  for (const auto& [field, sign] : group) Add_Button(row, *field, sign, group.size() > 1);
 }
 
-void ToolStrip::Add_Button(QBoxLayout& row, Button& field, ToolSign sign) {
+void ToolStrip::Add_Button(QBoxLayout& row, Button& field, ToolSign sign, bool choice) {
   auto* button = new ToolButton(sign);
+  button->setCheckable(choice);
   Keep_Room(*button);
   row.addWidget(button);
   view_.Bind<ButtonBinder>(field, *button);

@@ -33,7 +33,8 @@ class ToolStrip : public QFrame {
 
  private:
   void Add_Group(QBoxLayout& row, const std::vector<std::pair<Button*, ToolSign>>& group);
-  void Add_Button(QBoxLayout& row, Button& field, ToolSign sign);
+  /// A `choice` is one of a group of which one is chosen.
+  void Add_Button(QBoxLayout& row, Button& field, ToolSign sign, bool choice);
   void Make_Tooltip();
   /// Mouse or keyboard has come to a button.
   void Reach(ToolButton& button, Button& field);

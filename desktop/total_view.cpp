@@ -2,16 +2,19 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "desktop/accessible.h"
 #include "desktop/grid_binder.h"
+#include "desktop/own_texts.h"
 #include "desktop/row_table.h"
 #include "desktop/tool_button.h"
 
 namespace norvane {
 
-TotalView::TotalView(Desktop& desktop, Total& total) : FormView(desktop, total) {
+TotalView::TotalView(Desktop& desktop, Total& total)
+    : FormView(desktop, total), delete_(new QPushButton) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(8, 8, 8, 8);
   auto* tools = new QHBoxLayout;
@@ -22,11 +25,14 @@ TotalView::TotalView(Desktop& desktop, Total& total) : FormView(desktop, total) 
   to_excel->setToolTip(kTotalWorkbook);
   tools->addWidget(to_excel);
   tools->addStretch();
+  delete_->setAutoDefault(false);
+  tools->addWidget(delete_);
   column->addLayout(tools);
   Bind<ButtonBinder>(total.Toolbar1, *to_excel);
   auto* table = new RowTable;
   column->addWidget(table, 1);
   Bind<GridBinder>(total.grdResult, *table);
+  connect(delete_, &QPushButton::clicked, table, &RowTable::Picked);
   auto* strip = new QWidget;
   auto* row = new QHBoxLayout(strip);
   row->setContentsMargins(4, 4, 4, 4);
@@ -37,5 +43,7 @@ TotalView::TotalView(Desktop& desktop, Total& total) : FormView(desktop, total) 
   Bind<PictureBinder>(total.picTotal, *strip);
   Bind<CaptionBinder>(total.Label1, *sums);
 }
+
+void TotalView::Arrange() { delete_->setText(Own_Text(desktop(), TextId::kDeleteMarkedLines)); }
 
 }  // namespace norvane

@@ -3,9 +3,9 @@
 #include "desktop/form_view.h"
 #include "totals/total_form.h"
 
-namespace norvane {
+class QPushButton;
 
-class GridModel;
+namespace norvane {
 
 /// The screen of the saved calculations.
 class TotalView : public FormView {
@@ -13,6 +13,12 @@ class TotalView : public FormView {
 
  public:
   TotalView(Desktop& desktop, Total& total);
+
+ protected:
+  void Arrange() override;
+
+ private:
+  QPushButton* delete_;  ///< the marked lines
 };
 
 }  // namespace norvane

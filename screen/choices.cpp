@@ -48,11 +48,15 @@ const Entries& Table_Of(const Warmt& warmt, const InputRow& row) {
 std::size_t First_Of(const InputRow& row) { return row.index == kHumidity ? 3 : 1; }
 
 Choices Of_Table(const Entries& table, std::size_t first) {
-  Choices choices{{}, {0, 0}, true};
-  for (std::size_t i = first; i < table.size(); ++i) {
-    choices.entries.push_back({Text_Of(table[i].value_or(0)), ""});
-  }
+  Choices choices;
+  choices.entries_only = true;
   choices.limits = {table[first].value_or(0), table.back().value_or(0)};
+  choices.step = choices.limits.most - choices.limits.least;
+  for (std::size_t i = first; i < table.size(); ++i) {
+    const double entry = table[i].value_or(0);
+    choices.entries.push_back({Text_Of(entry), ""});
+    if (i > first) choices.step = std::min(choices.step, entry - table[i - 1].value_or(0));
+  }
   return choices;
 }
 
@@ -107,9 +111,9 @@ Choices Choices_Of(const Warmt& warmt, const InputRow& row, std::int16_t kind) {
   if (Is_Table_Row(row)) return Of_Table(Table_Of(warmt, row), First_Of(row));
   switch (row.index) {
     case kMedium:
-      return {Plain(kMediumTemperatures), kTemperatureLimits[kMedium]};
+      return {Plain(kMediumTemperatures), kTemperatureLimits[kMedium], kTemperatureStep};
     case kAmbient:
-      return {Plain(kAmbientTemperatures), kTemperatureLimits[kAmbient]};
+      return {Plain(kAmbientTemperatures), kTemperatureLimits[kAmbient], kTemperatureStep};
     case kThickness:
       return Of_Thickness(kind);
     case kDiameter:
@@ -124,11 +128,14 @@ std::optional<std::string> Text_To_Enter(std::string_view typed, const Choices& 
   const std::string text = As_Read(typed, locale);
   if (!Is_Number(text)) return std::nullopt;
   const double number = Val(text);
+  const bool allowed = choices.limits.least <= number && number <= choices.limits.most;
+  return allowed && !choices.entries_only ? text : Text_To_Enter(number, choices);
+}
+
+std::string Text_To_Enter(double number, const Choices& choices) {
   if (choices.entries_only) return choices.entries[Nearest(number, choices.entries)].text;
   // Here rather than by the field, which is no end to a number that 16 bits don't hold.
-  if (number < choices.limits.least) return Text_Of(choices.limits.least);
-  if (number > choices.limits.most) return Text_Of(choices.limits.most);
-  return text;
+  return Text_Of(std::clamp(number, choices.limits.least, choices.limits.most));
 }
 
 std::size_t Place_Of(std::string_view typed, const Choices& choices, const Locale& locale) {

@@ -31,6 +31,8 @@ struct Choice {
 struct Choices {
   std::vector<Choice> entries;  ///< ascending
   Limits limits;
+  /// What a value differs by from the next one, at the least.
+  double step = 1;
   /// The field is locked: clicks on its spin pair lead to the entries, and to nothing else.
   bool entries_only = false;
 };
@@ -55,6 +57,9 @@ std::optional<std::string> Text_To_Enter(std::string_view typed, const Choices& 
 /// @param choices those of the field, with one entry at least
 /// @param locale the user's number signs
 std::size_t Place_Of(std::string_view typed, const Choices& choices, const Locale& locale);
+
+/// The same for a number that comes as such.
+std::string Text_To_Enter(double number, const Choices& choices);
 
 /// How many clicks on the spin pair of a locked field lead to an entry, up (above 0) or down.
 /// @param warmt the main screen as it stands

@@ -10,9 +10,8 @@
 namespace norvane {
 namespace {
 
-constexpr double kTemperatureStep = 5;  // degrees Celsius
-constexpr double kMeanLimit = 105;      // degrees Celsius
-constexpr int kFirstHumidity = 3;       // the columns before it hold no humidity
+constexpr double kMeanLimit = 105;  // degrees Celsius
+constexpr int kFirstHumidity = 3;   // the columns before it hold no humidity
 
 using Entries = std::vector<std::optional<double>>;
 

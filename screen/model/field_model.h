@@ -100,6 +100,8 @@ class Stepper : public SpinField {
   Stepper(Form& form, std::string name, int index, TextField& buddy, int least, int most);
 
   const TextField& Buddy() const { return buddy_; }
+  int Least() const { return least_; }
+  int Most() const { return most_; }
   /// From the field's value rounded to 16 bits, cut to the range.
   /// @param direction 1 or -1
   void Step(int direction) override;

@@ -20,6 +20,8 @@ from gi.repository import Atspi, GLib  # noqa: E402
 PATIENCE = 20  # seconds
 INTERACTIVE = {
     Atspi.Role.TEXT,
+    Atspi.Role.SPIN_BUTTON,
+    Atspi.Role.RADIO_BUTTON,
     Atspi.Role.PUSH_BUTTON,
     Atspi.Role.TOGGLE_BUTTON,
     Atspi.Role.CHECK_BOX,
@@ -108,7 +110,7 @@ def check_fields(frame):
     fields = {
         accessible.get_name(): accessible
         for accessible in all_below(frame)
-        if accessible.get_role() == Atspi.Role.TEXT
+        if accessible.get_role() == Atspi.Role.SPIN_BUTTON
     }
     for name, text, unit in [
         ("Medium temperature", "80", "°C"),

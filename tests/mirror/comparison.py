@@ -220,7 +220,8 @@ class Seen:
         told[key + " locked"] = node.has(accessible.READ_ONLY)
         told[key + " chosen"] = node.has(accessible.CHECKED)
         if kind == "c":
-            told[key + " chosen item"] = node.name
+            told[key + " chosen item"] = next(
+                (item.name for item in node.children if item.has(accessible.SELECTED)), "")
         if kind in "ci":
             told[key + " items"] = [item.name for item in node.below() if not item.children
                                     and item.role not in accessible.LISTS]

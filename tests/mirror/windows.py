@@ -48,7 +48,7 @@ def main_fields():
         fields += [("f", "rule"), ("l", "Label6")] if row == 5 else []
         fields += [("l", f"Label3({row})"), ("l", f"Label4({value})"), ("l", f"Label9({row})")]
         fields += [("l", "Label4(5)")] if row == 5 else []
-    return fields + [("f", "chart"), ("l", "Label5")]
+    return fields + [("f", "said"), ("f", "chart"), ("l", "Label5")]
 
 
 def language_fields():
@@ -64,7 +64,7 @@ TOOLS = {
     "cmdToolBar1(3)": 33, "cmdToolBarT": 6, "cmdToolBarC": 7, "cmdToolBar3(0)": 44,
     "cmdToolBar4(0)": 47, "cmdToolBar4(1)": 50, "cmdToolBar4(2)": 56, "cmdToolBar5(0)": 57,
 }
-OWN = {"chart"}  # of the front end, which the model knows nothing of
+OWN = {"chart", "delete", "said"}  # of the front end, which the model knows nothing of
 FORMS = {
     "Warmt": main_fields(),
     "Settings": [("p", "SSTab1"), ("l", "Label7"), ("l", "Label6(0)"), ("t", "Text2(0)"),
@@ -73,7 +73,7 @@ FORMS = {
                  ("t", "Text3"), ("b", "Command1"), ("b", "Command2")],
     "Lang": language_fields(),
     "Address": [("l", "Label1"), ("b", "imgExit"), ("i", "List1"), ("b", "OK")],
-    "Total": [("b", "Toolbar1"), ("g", "grdResult"), ("l", "Label1")],
+    "Total": [("b", "Toolbar1"), ("b", "delete"), ("g", "grdResult"), ("l", "Label1")],
     "About": [("l", "Label1")],
 }
 

@@ -100,6 +100,22 @@ TEST_F(WhatFieldsCanBeGiven, HasTheTablesOfCondensationAndNothingElse) {
   EXPECT_FALSE(Of(kMedium).entries_only);
 }
 
+TEST_F(WhatFieldsCanBeGiven, HasTheStepFromOneValueToTheNext) {
+  EXPECT_EQ(Of(kMedium).step, 5);
+  EXPECT_EQ(Of(kThickness).step, 1);
+  EXPECT_EQ(Of(kDiameter).step, 1);
+  EXPECT_EQ(Of(kLength).step, 1);
+  EXPECT_EQ(Of(kTableTemperature).step, 2);  // the finest of the table
+  EXPECT_EQ(Of(kHumidity).step, 5);
+}
+
+TEST_F(WhatFieldsCanBeGiven, TakesANumberThatComesAsSuch) {
+  EXPECT_EQ(Text_To_Enter(12.5, Of(kThickness)), "12.5");
+  EXPECT_EQ(Text_To_Enter(-3, Of(kThickness)), "0");
+  EXPECT_EQ(Text_To_Enter(1e9, Of(kLength)), "10000");
+  EXPECT_EQ(Text_To_Enter(62, Of(kHumidity)), "60");
+}
+
 TEST_F(WhatFieldsCanBeGiven, TakesNumbersAsAPersonWritesThem) {
   EXPECT_EQ(Entered("21", kDiameter), "21");
   EXPECT_EQ(Entered(" 21 ", kDiameter), "21");
