@@ -1,3 +1,4 @@
+#include <QPushButton>
 #include <QScrollBar>
 #include <set>
 
@@ -114,6 +115,19 @@ TEST_F(MarkedRows, Nothing_Is_Asked_While_There_Are_None) {
   Press(Qt::Key_Delete);
   Settle();
   EXPECT_TRUE(watchdog.Messages().empty());
+}
+
+TEST_F(MarkedRows, The_Button_Above_Deletes_Them) {
+  Add_Lines({"6", "9", "13"});
+  Open();
+  auto& button = *View(List()).findChild<QPushButton*>();
+  Click(button);
+  EXPECT_TRUE(watchdog.Messages().empty());
+  Mark_Row(1);
+  watchdog.Expect_Message(QMessageBox::Yes);
+  Click(button);
+  Wait_For_Message(1);
+  EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "13"}));
 }
 
 TEST_F(MarkedRows, To_Make_A_Column_Wider_Asks_Nothing) {
