@@ -27,6 +27,14 @@ def leaves(node):
             yield child
 
 
+# What the front end adds to the results, of which the model knows nothing: the answer in large
+# letters; two rows of the dew point, the wall, what a screen reader is told, the chart.
+OWN_ABOVE = [("l", "answer"), ("l", "answer_remark")]
+OWN_BELOW = [("l", f"dew_point({i})") for i in range(6)]
+OWN_BELOW += [("f", "wall"), ("f", "said"), ("f", "chart")]
+OWN = {"delete", *(name for _, name in OWN_ABOVE + OWN_BELOW)}
+
+
 def arrows(pair):
     return [("b", pair + ".up"), ("b", pair + ".down")]
 
@@ -41,14 +49,14 @@ def main_fields():
         fields += [("l", f"Text2({row})"), ("l", f"Label8({row})")] if row < 4 else []
     fields += [("l", "Label1(5)"), ("t", "txtmtrs")] + arrows("SpinButton1(5)")
     fields += [("l", "Label0"), ("f", "Picture2"), ("c", "Combo1"), ("b", "cmdAdd"),
-               ("b", "picTotal"), ("l", "Label2(0)"), ("l", "Label2(1)")]
+               ("b", "picTotal"), *OWN_ABOVE, ("l", "Label2(0)"), ("l", "Label2(1)")]
     for row in range(9):
         # From the savings on the values run one ahead of the headings.
         value = row if row < 5 else row + 1
         fields += [("f", "rule"), ("l", "Label6")] if row == 5 else []
         fields += [("l", f"Label3({row})"), ("l", f"Label4({value})"), ("l", f"Label9({row})")]
         fields += [("l", "Label4(5)")] if row == 5 else []
-    return fields + [("f", "said"), ("f", "chart"), ("l", "Label5")]
+    return fields + OWN_BELOW + [("l", "Label5")]
 
 
 def language_fields():
@@ -64,7 +72,6 @@ TOOLS = {
     "cmdToolBar1(3)": 33, "cmdToolBarT": 6, "cmdToolBarC": 7, "cmdToolBar3(0)": 44,
     "cmdToolBar4(0)": 47, "cmdToolBar4(1)": 50, "cmdToolBar4(2)": 56, "cmdToolBar5(0)": 57,
 }
-OWN = {"chart", "delete", "said"}  # of the front end, which the model knows nothing of
 FORMS = {
     "Warmt": main_fields(),
     "Settings": [("p", "SSTab1"), ("l", "Label7"), ("l", "Label6(0)"), ("t", "Text2(0)"),
