@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPalette>
+#include <cmath>
 
 #include "desktop/colours.h"
 
@@ -10,11 +11,12 @@ namespace {
 
 constexpr qreal kStop = 5;  // the length of the marks below the axis
 constexpr qreal kDot = 3.5;
+constexpr qreal kThick = 2;  // the lines
 
 QPen Pen_Of(std::size_t line, const ChartColours& colours) {
   // Those who don't tell the colours apart tell the dashes.
   constexpr Qt::PenStyle kStyles[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine};
-  QPen pen(colours.lines[line], 2, kStyles[line]);
+  QPen pen(colours.lines[line], kThick, kStyles[line]);
   pen.setCapStyle(Qt::FlatCap);
   return pen;
 }
@@ -39,18 +41,36 @@ void Paint_Grid(QPainter& painter, const Chart& chart, const ChartLayout& layout
   }
 }
 
+/// What a pen leaves of a curve: the dashes, that go on around its corners.
+QList<QLineF> Pieces(const QList<QLineF>& curve, const QPen& pen) {
+  const QList<qreal> pattern = pen.dashPattern();  // in widths of the pen, by turns drawn and not
+  if (pattern.isEmpty()) return curve;
+  QList<QLineF> pieces;
+  qsizetype turn = 0;
+  qreal left = pattern[0] * pen.widthF();
+  for (const QLineF& part : curve) {
+    const qreal length = part.length();
+    for (qreal from = 0; from < length;) {
+      const bool ends = from + left <= length;
+      const qreal to = ends ? from + left : length;
+      if (turn % 2 == 0) pieces << QLineF(part.pointAt(from / length), part.pointAt(to / length));
+      if (ends) turn = (turn + 1) % pattern.size();
+      left = ends ? pattern[turn] * pen.widthF() : left - (to - from);
+      from = to;
+    }
+  }
+  return pieces;
+}
+
 void Paint_Lines(QPainter& painter, const Chart& chart, const ChartLayout& layout,
                  const ChartColours& colours) {
-  QPolygonF polygon;
   for (std::size_t i = 0; i < chart.lines.size(); ++i) {
-    const ChartLine& line = chart.lines[i];
     painter.setPen(Pen_Of(i, colours));
     painter.drawLine(layout.Sample(i));
-    polygon.clear();
-    for (std::size_t at = 0; at < chart.places.size(); ++at) {
-      polygon << layout.Point(line, chart.places[at], line.values[at]);
-    }
-    painter.drawPolyline(polygon);
+    // Qt paints single straight lines several times faster than a curve, and than dashes.
+    const QList<QLineF> pieces = Pieces(layout.Curve(chart.lines[i]), painter.pen());
+    painter.setPen(QPen(colours.lines[i], kThick, Qt::SolidLine, Qt::FlatCap));
+    painter.drawLines(pieces);
   }
 }
 
@@ -59,12 +79,23 @@ void Paint_Mark(QPainter& painter, const Chart& chart, const ChartLayout& layout
   const QRectF& plot = layout.Plot();
   const qreal x = Whole(layout.X(across));
   painter.setPen(QPen(colours.text, 1, Qt::DotLine));
+  painter.setRenderHint(QPainter::Antialiasing, false);
   painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom()));
+  painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   for (std::size_t i = 0; i < chart.lines.size(); ++i) {
     painter.setBrush(colours.lines[i]);
     painter.drawEllipse(layout.Point(chart.lines[i], across, value_of(chart.lines[i])), kDot, kDot);
   }
+}
+
+/// Where a text begins, in its room.
+QPointF Corner_Of(const ChartText& text) {
+  const QSizeF free = text.room.size() - text.prepared.size();
+  qreal along = 0;
+  if (text.alignment & Qt::AlignRight) along = free.width();
+  if (text.alignment & Qt::AlignHCenter) along = free.width() / 2;
+  return text.room.topLeft() + QPointF(along, free.height() / 2);
 }
 
 }  // namespace
@@ -95,7 +126,7 @@ void Paint_Chart(QPainter& painter, const Chart& chart, const ChartLayout& layou
   for (const ChartText& text : layout.Texts()) {
     painter.setPen(text.line < 0 ? colours.text
                                  : colours.lines[static_cast<std::size_t>(text.line)]);
-    painter.drawText(text.room, static_cast<int>(text.alignment | Qt::AlignVCenter), text.text);
+    painter.drawStaticText(Corner_Of(text), text.prepared);
   }
 }
 

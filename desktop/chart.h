@@ -2,7 +2,10 @@
 
 #include <QColor>
 #include <QFont>
+#include <QLineF>
+#include <QList>
 #include <QRectF>
+#include <QStaticText>
 #include <QString>
 #include <array>
 #include <optional>
@@ -20,6 +23,8 @@ struct ChartAxis {
   double least = 0;
   double most = 0;
   double step = 0;
+
+  bool operator==(const ChartAxis&) const = default;
 };
 
 /// The smallest axis of so many round steps that holds both ends.
@@ -49,6 +54,9 @@ struct Chart {
   Locale locale;
 };
 
+/// Whether two charts differ in nothing but values, so that all else stands where it stood.
+bool Differ_In_Values_Only(const Chart& one, const Chart& other);
+
 struct ChartColours {
   QColor text;
   QColor grid;
@@ -63,7 +71,8 @@ struct ChartText {
   QRectF room;
   Qt::Alignment alignment;
   QString text;
-  int line = -1;  ///< whose colour it has
+  int line = -1;         ///< whose colour it has
+  QStaticText prepared;  ///< the text, shaped once for all paintings
 };
 
 /// A chart with a place for everything, for a painter of any kind.
@@ -75,17 +84,24 @@ class ChartLayout {
               std::optional<std::size_t> reading = {});
 
   const QRectF& Plot() const { return plot_; }
+  const QRectF& Area() const { return area_; }
+  const QFont& Font() const { return font_; }
   const std::vector<ChartText>& Texts() const { return texts_; }
+  /// Writes the values of the chart as it is now, or of a place; all else stays.
+  void Write_Values(std::optional<std::size_t> reading);
   /// Where the sample of a line stands, in front of its name.
   QLineF Sample(std::size_t line) const;
   /// The number of the place that is nearest to a position.
   std::size_t Nearest(qreal x) const;
   qreal X(double across) const;
   QPointF Point(const ChartLine& line, double across, double value) const;
+  /// The curve of a line, without the points that a straight line comes within a tenth of.
+  QList<QLineF> Curve(const ChartLine& line) const;
 
  private:
-  void Add_Names(std::optional<std::size_t> reading);
-  void Add_Row(qreal top, qreal left, const QString& name, const QString& value, int line);
+  void Add_Text(const QRectF& room, Qt::Alignment alignment, const QString& text, int line);
+  void Add_Names();
+  void Write_Value(std::size_t name, const QString& value);
   void Place_Plot();
   void Add_Scale(const ChartAxis& axis, bool on_right);
   void Add_Numbers_Across();
@@ -95,7 +111,8 @@ class ChartLayout {
   QFont font_;
   qreal row_;  ///< the height of a row of text
   QRectF plot_;
-  std::vector<ChartText> texts_;
+  std::vector<ChartText> texts_;  ///< the names, all that stays, the values
+  std::size_t lasting_ = 0;       ///< how many of the texts aren't values
 };
 
 /// Paints a chart as it was laid out, with the painter's font.

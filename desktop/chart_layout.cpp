@@ -2,6 +2,7 @@
 #include <QLineF>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "desktop/chart.h"
 
@@ -40,15 +41,35 @@ ChartAxis Round_Axis(double least, double most, int steps) {
   return axis;
 }
 
+bool Differ_In_Values_Only(const Chart& one, const Chart& other) {
+  const auto same_line = [](const ChartLine& line, const ChartLine& of_other) {
+    return line.name == of_other.name && line.on_right == of_other.on_right;
+  };
+  return one.name == other.name && one.across == other.across && one.left == other.left &&
+         one.right == other.right && one.stops == other.stops &&
+         one.locale.decimal_separator == other.locale.decimal_separator &&
+         std::ranges::equal(one.lines, other.lines, same_line);
+}
+
 ChartLayout::ChartLayout(const Chart& chart, const QRectF& area, const QFont& font,
                          std::optional<std::size_t> reading)
     : chart_(chart), area_(area), font_(font), row_(QFontMetricsF(font).height() + 2) {
   if (chart.lines.empty()) return;
   Place_Plot();
-  Add_Names(reading);
+  Add_Names();
   Add_Scale(chart.left, false);
   Add_Scale(chart.right, true);
   Add_Numbers_Across();
+  lasting_ = texts_.size();
+  Write_Values(reading);
+}
+
+void ChartLayout::Add_Text(const QRectF& room, Qt::Alignment alignment, const QString& text,
+                           int line) {
+  QStaticText prepared(text);
+  prepared.setTextFormat(Qt::PlainText);
+  prepared.prepare({}, font_);
+  texts_.push_back({room, alignment, text, line, prepared});
 }
 
 void ChartLayout::Place_Plot() {
@@ -64,28 +85,37 @@ void ChartLayout::Place_Plot() {
   plot_ = area_.adjusted(widest(chart_.left), names, -widest(chart_.right), -2 * row_ - kGap);
 }
 
-void ChartLayout::Add_Row(qreal top, qreal left, const QString& name, const QString& value,
-                          int line) {
-  const QRectF row(left, top, area_.right() - left, row_);
-  const qreal width = QFontMetricsF(font_).horizontalAdvance(value);
-  texts_.push_back({row.adjusted(0, 0, -width - kGap, 0), Qt::AlignLeft, name, line});
-  texts_.push_back({row.adjusted(row.width() - width, 0, 0, 0), Qt::AlignRight, value, line});
+void ChartLayout::Add_Names() {
+  qreal top = area_.top();
+  const qreal left = area_.left() + kSample + kGap;
+  for (std::size_t i = 0; i < chart_.lines.size(); ++i, top += row_) {
+    Add_Text({left, top, area_.right() - left, row_}, Qt::AlignLeft, chart_.lines[i].name,
+             static_cast<int>(i));
+  }
+  Add_Text({area_.left(), area_.bottom() - row_, area_.width(), row_}, Qt::AlignLeft, chart_.name,
+           -1);
 }
 
-void ChartLayout::Add_Names(std::optional<std::size_t> reading) {
-  const auto shown = [&](float at_present, const std::vector<float>& values) {
-    if (reading) return Chart_Value(values[*reading], chart_.locale);
-    return chart_.present ? Chart_Value(at_present, chart_.locale) : QString();
-  };
-  qreal top = area_.top();
-  for (std::size_t i = 0; i < chart_.lines.size(); ++i, top += row_) {
-    const ChartLine& line = chart_.lines[i];
-    Add_Row(top, area_.left() + kSample + kGap, line.name, shown(line.at_present, line.values),
-            static_cast<int>(i));
-  }
+void ChartLayout::Write_Values(std::optional<std::size_t> reading) {
+  texts_.resize(lasting_);
+  if (chart_.lines.empty()) return;
   const auto at = reading ? chart_.places[*reading] : chart_.present;
-  Add_Row(area_.bottom() - row_, area_.left(), chart_.name,
-          at ? QString::fromStdString(Text_Of_Single(*at, chart_.locale)) : QString(), -1);
+  for (std::size_t i = 0; i < chart_.lines.size(); ++i) {
+    const ChartLine& line = chart_.lines[i];
+    const float value = reading ? line.values[*reading] : line.at_present;
+    Write_Value(i, at ? Chart_Value(value, chart_.locale) : QString());
+  }
+  Write_Value(chart_.lines.size(),
+              at ? QString::fromStdString(Text_Of_Single(*at, chart_.locale)) : QString());
+}
+
+void ChartLayout::Write_Value(std::size_t name, const QString& value) {
+  const qreal width = QFontMetricsF(font_).horizontalAdvance(value);
+  QRectF room = texts_[name].room;
+  room.setRight(area_.right());
+  texts_[name].room = room.adjusted(0, 0, -width - kGap, 0);
+  room.setLeft(area_.right() - width);
+  Add_Text(room, Qt::AlignRight, value, texts_[name].line);
 }
 
 void ChartLayout::Add_Scale(const ChartAxis& axis, bool on_right) {
@@ -96,8 +126,7 @@ void ChartLayout::Add_Scale(const ChartAxis& axis, bool on_right) {
         on_right
             ? QRectF(plot_.right() + kGap, y - row_ / 2, area_.right() - plot_.right() - kGap, row_)
             : QRectF(area_.left(), y - row_ / 2, plot_.left() - kGap - area_.left(), row_);
-    texts_.push_back(
-        {room, on_right ? Qt::AlignLeft : Qt::AlignRight, Text_Of(number, chart_.locale), -1});
+    Add_Text(room, on_right ? Qt::AlignLeft : Qt::AlignRight, Text_Of(number, chart_.locale), -1);
   }
 }
 
@@ -121,7 +150,7 @@ void ChartLayout::Add_Numbers_Across() {
                                    [&](const QRectF& other) { return other.intersects(around); });
     if (!free) continue;
     taken.push_back(around);
-    texts_.push_back({room, Qt::AlignHCenter, text, -1});
+    Add_Text(room, Qt::AlignHCenter, text, -1);
   }
 }
 
@@ -139,6 +168,33 @@ QPointF ChartLayout::Point(const ChartLine& line, double across, double value) c
   const ChartAxis& axis = line.on_right ? chart_.right : chart_.left;
   return {X(across),
           plot_.bottom() - plot_.height() * (value - axis.least) / (axis.most - axis.least)};
+}
+
+QList<QLineF> ChartLayout::Curve(const ChartLine& line) const {
+  constexpr qreal kInvisible = 0.1;
+  constexpr qreal kAny = std::numeric_limits<qreal>::infinity();
+  QList<QLineF> parts;
+  QPointF from = Point(line, chart_.places.front(), line.values.front());
+  QPointF to = from;
+  // The slopes of the lines onwards that come close enough to all points since.
+  qreal least = -kAny;
+  qreal most = kAny;
+  for (std::size_t i = 1; i < chart_.places.size(); ++i) {
+    const QPointF next = Point(line, chart_.places[i], line.values[i]);
+    const auto slope_to = [&](qreal off) {
+      return (next.y() + off - from.y()) / (next.x() - from.x());
+    };
+    if (slope_to(0) < least || slope_to(0) > most) {
+      parts << QLineF(from, to);
+      from = to;
+      least = -kAny;
+      most = kAny;
+    }
+    least = std::max(least, slope_to(-kInvisible));
+    most = std::min(most, slope_to(kInvisible));
+    to = next;
+  }
+  return parts << QLineF(from, to);
 }
 
 std::size_t ChartLayout::Nearest(qreal x) const {

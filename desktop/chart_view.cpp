@@ -15,14 +15,21 @@ ChartView::ChartView(QWidget* parent) : QWidget(parent) {
 QSize ChartView::minimumSizeHint() const { return {300, 200}; }
 
 void ChartView::Set_Chart(Chart chart) {
+  if (!Differ_In_Values_Only(chart, chart_)) layout_.reset();
   chart_ = std::move(chart);
   if (reading_ && *reading_ >= chart_.places.size()) reading_.reset();
   setCursor(chart_.lines.empty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
   update();
 }
 
-ChartLayout ChartView::Laid_Out() const {
-  return {chart_, QRectF(contentsRect()), font(), reading_};
+const ChartLayout& ChartView::Laid_Out() const {
+  const QRectF area(contentsRect());
+  if (layout_ && layout_->Area() == area && layout_->Font() == font()) {
+    layout_->Write_Values(reading_);
+  } else {
+    layout_.emplace(chart_, area, font(), reading_);
+  }
+  return *layout_;
 }
 
 void ChartView::paintEvent(QPaintEvent*) {
@@ -32,7 +39,7 @@ void ChartView::paintEvent(QPaintEvent*) {
 
 std::optional<std::size_t> ChartView::Place_At(const QPointF& position) const {
   if (chart_.lines.empty()) return std::nullopt;
-  const ChartLayout layout = Laid_Out();
+  const ChartLayout& layout = Laid_Out();
   constexpr qreal kAround = 12;
   const QRectF plot = layout.Plot().adjusted(-kAround, -kAround, kAround, kAround);
   if (!plot.contains(position)) return std::nullopt;

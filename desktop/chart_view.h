@@ -16,7 +16,7 @@ class ChartView : public QWidget {
   void Set_Chart(Chart chart);
   const Chart& Shown_Chart() const { return chart_; }
   /// Where everything stands now.
-  ChartLayout Laid_Out() const;
+  const ChartLayout& Laid_Out() const;
 
   QSize minimumSizeHint() const override;
 
@@ -34,7 +34,8 @@ class ChartView : public QWidget {
   std::optional<std::size_t> Place_At(const QPointF& position) const;
 
   Chart chart_;
-  std::optional<std::size_t> reading_;  ///< the place under the mouse
+  mutable std::optional<ChartLayout> layout_;  ///< for as long as only values change
+  std::optional<std::size_t> reading_;         ///< the place under the mouse
 };
 
 }  // namespace norvane

@@ -1,6 +1,7 @@
 #include <QLocale>
 #include <QPainter>
 #include <QPalette>
+#include <algorithm>
 #include <cmath>
 
 #include "catalogue/settings_form.h"
@@ -199,6 +200,37 @@ TEST_F(Charting, Uses_The_Room_Of_A_Larger_Window) {
   EXPECT_EQ(View_Of_Chart().height(), natural.height() + 100);
 }
 
+TEST_F(Charting, Stands_As_If_Laid_Out_Anew_After_Each_Change) {
+  const auto texts_of = [](const ChartLayout& layout) {
+    QStringList texts;
+    for (const ChartText& text : layout.Texts()) {
+      const QRectF& room = text.room;
+      texts << QString("%1 %2 %3 %4").arg(text.text).arg(room.x()).arg(room.y()).arg(room.width());
+    }
+    return texts;
+  };
+  const auto check = [&](const char* what) {
+    Settle();
+    ChartView& view = View_Of_Chart();
+    const ChartLayout anew(view.Shown_Chart(), QRectF(view.contentsRect()), view.font());
+    EXPECT_EQ(texts_of(view.Laid_Out()), texts_of(anew)) << what;
+  };
+  Paste(Screen().txtT(3), "21");
+  check("values");
+  Paste(Screen().txtT(0), "-40");
+  check("axes");
+  Click(Screen().cmdToolBar1(3));
+  check("names");
+  Main_View().resize(Main_View().size() + QSize(200, 100));
+  check("size");
+  QFont larger = View_Of_Chart().font();
+  larger.setPointSizeF(larger.pointSizeF() * 1.5);
+  View_Of_Chart().setFont(larger);
+  check("font");
+  Click(Screen().cmdToolBarC);
+  check("curves");
+}
+
 /// The same on a system that writes decimals with a comma.
 class ChartingWithCommas : public Charting {
  protected:
@@ -240,6 +272,32 @@ TEST(AChart, IsPaintedWithoutAWidgetInTheColoursOfPaper) {
   const QPointF middle = layout.Plot().center();
   EXPECT_EQ(paper.pixelColor(middle.toPoint()), colours.lines[0]);
   for (int x = 0; x < paper.width(); ++x) EXPECT_EQ(paper.pixelColor(x, 5), QColor(Qt::white));
+}
+
+TEST(AChart, HasFewStraightPartsInACurveAndNoneTheEyeCouldTell) {
+  Chart chart = Small_Chart();
+  chart.places.clear();
+  ChartLine& line = chart.lines[0];
+  line.values.clear();
+  for (int i = 0; i <= 100; ++i) {
+    chart.places.push_back(static_cast<float>(i) / 10);
+    line.values.push_back(4.0F / (1.0F + static_cast<float>(i) / 10));
+  }
+  const ChartLayout layout(chart, QRectF(0, 0, 400, 300), QFont());
+  const QList<QLineF> parts = layout.Curve(line);
+  EXPECT_LT(parts.size(), 40);
+  EXPECT_EQ(parts.front().p1(), layout.Point(line, chart.places.front(), line.values.front()));
+  EXPECT_EQ(parts.back().p2(), layout.Point(line, chart.places.back(), line.values.back()));
+  for (int i = 1; i < parts.size(); ++i) EXPECT_EQ(parts[i].p1(), parts[i - 1].p2());
+  for (std::size_t i = 0; i < chart.places.size(); ++i) {
+    const QPointF point = layout.Point(line, chart.places[i], line.values[i]);
+    const auto part = std::find_if(parts.begin(), parts.end(), [&](const QLineF& it) {
+      return it.p1().x() <= point.x() && point.x() <= it.p2().x();
+    });
+    ASSERT_NE(part, parts.end());
+    const qreal y = part->pointAt((point.x() - part->p1().x()) / part->dx()).y();
+    EXPECT_NEAR(y, point.y(), 0.101);
+  }
 }
 
 TEST(AChart, FindsTheNearestPlace) {
