@@ -114,9 +114,10 @@ std::optional<std::vector<std::string>> Desktop::Font_Names() const {
   return names;
 }
 
-DisplaySize Desktop::Screen_Size() const {
-  const QSize size = QGuiApplication::primaryScreen()->availableSize();
-  return {To_Twips(size.width()), To_Twips(size.height())};
+DisplayArea Desktop::Available_Area() const {
+  const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+  return {To_Twips(area.left()), To_Twips(area.top()), To_Twips(area.width()),
+          To_Twips(area.height())};
 }
 
 void Desktop::Form_Loaded(Form& form) { views_[&form] = Make_View(*this, form); }

@@ -40,7 +40,7 @@ class Desktop : public Platform, public Display {
   char Decimal_Separator() const override;
   std::optional<std::vector<std::string>> Font_Names() const override;
 
-  DisplaySize Screen_Size() const override;
+  DisplayArea Available_Area() const override;
   void Form_Loaded(Form& form) override;
   void Form_Unloaded(Form& form) override;
   void Run_Modal(Form& form) override;

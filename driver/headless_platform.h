@@ -22,7 +22,7 @@ class HeadlessPlatform : public Platform, public Display {
   char Decimal_Separator() const override { return decimal_separator_; }
   std::optional<std::vector<std::string>> Font_Names() const override { return fonts; }
 
-  DisplaySize Screen_Size() const override { return {15360, 11520}; }
+  DisplayArea Available_Area() const override { return {0, 0, 15360, 11520}; }
   void Form_Loaded(Form&) override {}
   void Form_Unloaded(Form&) override {}
   void Run_Modal(Form& form) override { play_modal(form); }

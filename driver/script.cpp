@@ -158,6 +158,8 @@ void Script::Act(const ScriptLine& line) {
   UserEvent event{line.action, form};
   event.first = line.first;
   event.last = line.last;
+  event.left = line.first;
+  event.top = line.last;
   event.width = line.first;
   event.height = line.last;
   if (line.field) {

@@ -61,6 +61,7 @@ constexpr VerbEntry kVerbs[] = {
     {"rows", Verb::kEvent, A::kPickRows, On::kField, With::kTwoNumbers},
     {"activate", Verb::kEvent, A::kActivate, On::kForm},
     {"resize", Verb::kEvent, A::kResize, On::kForm, With::kTwoNumbers},
+    {"move", Verb::kEvent, A::kMove, On::kForm, With::kTwoNumbers},
     {"close", Verb::kEvent, A::kCloseBox, On::kForm},
 };
 
@@ -170,6 +171,13 @@ void Parse_Arguments(ScriptLine& line, With with, const std::string& rest) {
   }
 }
 
+/// What the two numbers of an event's line are.
+std::pair<double, double> Numbers_Of(const UserEvent& event) {
+  if (event.action == A::kResize) return {event.width, event.height};
+  if (event.action == A::kMove) return {event.left, event.top};
+  return {event.first, event.last};
+}
+
 }  // namespace
 
 std::optional<ScriptLine> Parse_Line(const std::string& line) {
@@ -192,12 +200,10 @@ std::string Line_Of(const UserEvent& event, int charset) {
   std::string line = entry->word;
   line += ' ' + (event.field != nullptr ? Name_Of(*event.field) : event.form.Name());
   if (entry->with == With::kText) line += ' ' + Shown(event.text, charset);
-  const bool sized = entry->on == On::kForm;
-  const auto number = [](double size) { return ' ' + std::to_string(static_cast<int>(size)); };
-  if (entry->with == With::kNumber || entry->with == With::kTwoNumbers) {
-    line += number(sized ? event.width : event.first);
-  }
-  if (entry->with == With::kTwoNumbers) line += number(sized ? event.height : event.last);
+  const auto [first, last] = Numbers_Of(event);
+  const auto number = [](double value) { return ' ' + std::to_string(static_cast<int>(value)); };
+  if (entry->with == With::kNumber || entry->with == With::kTwoNumbers) line += number(first);
+  if (entry->with == With::kTwoNumbers) line += number(last);
   return line;
 }
 

@@ -38,8 +38,8 @@ struct ScriptLine {
   std::vector<NamePart> name;              ///< of `kGet`
   std::string text;                        ///< UTF-8; of `kGet` the name as it was written
   std::vector<std::string> fonts;          ///< of `kFonts`
-  int first = 1;                           ///< a count, an item, a tab, a row, a width in twips
-  int last = 0;                            ///< a row, a height in twips
+  int first = 1;  ///< a count, an item, a tab, a row, a width or left edge in twips
+  int last = 0;   ///< a row, a height or upper edge in twips
   MessageAnswer answer = MessageAnswer::kOk;
   bool spreadsheet = false;  ///< whether there is a spreadsheet program
   std::optional<ProcedureCall> call;

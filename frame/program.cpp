@@ -13,6 +13,11 @@ namespace {
 
 constexpr std::size_t kMemoryForTheEnd = 8U << 20;
 
+/// The mouse may pass over a form that lies behind, and a window manager may move it.
+bool Brings_To_Front(UserAction action) {
+  return action != UserAction::kHover && action != UserAction::kMove;
+}
+
 }  // namespace
 
 // It isn't touched, so that it costs addresses alone.
@@ -34,7 +39,7 @@ std::optional<std::string> Program::Dispatch(const UserEvent& event) {
   std::optional<std::string> reason;
   Run([&] {
     // As a mouse does, an event brings its form to the front first; that may change the form.
-    if (event.action != UserAction::kHover) event.form.Show();
+    if (Brings_To_Front(event.action)) event.form.Show();
     if (event.action == UserAction::kActivate) return;
     reason = Reason_To_Refuse(module1_.desk, event);
     if (!reason) Carry_Out(module1_.desk, event);

@@ -101,16 +101,21 @@ void User::Act_On_Field(UserAction action) {
 }
 
 void User::Act_On_Form() {
-  constexpr double kSizes[] = {0, 1619, 1620, 9000, 12000, 1e9, -5};
+  constexpr double kNumbers[] = {0, 1619, 1620, 9000, 12000, 1e9, -5};
   constexpr UserAction kActions[] = {UserAction::kActivate, UserAction::kActivate,
-                                     UserAction::kResize, UserAction::kCloseBox,
-                                     UserAction::kHover};
+                                     UserAction::kResize,   UserAction::kCloseBox,
+                                     UserAction::kHover,    UserAction::kMove};
   Form* form = Any_Form();
   if (form == nullptr) return;
   UserEvent event{kActions[input_.Below(std::size(kActions))], *form};
+  const auto any_number = [&] { return kNumbers[input_.Below(std::size(kNumbers))]; };
   if (event.action == UserAction::kResize) {
-    event.width = kSizes[input_.Below(std::size(kSizes))];
-    event.height = kSizes[input_.Below(std::size(kSizes))];
+    event.width = any_number();
+    event.height = any_number();
+  }
+  if (event.action == UserAction::kMove) {
+    event.left = any_number();
+    event.top = any_number();
   }
   Try(event);
 }

@@ -6,8 +6,10 @@ namespace norvane {
 
 class Form;
 
-/// A size in twips, 1440 to the inch.
-struct DisplaySize {
+/// A part of the user's desktop in twips, 1440 to the inch, from the upper left of all its screens.
+struct DisplayArea {
+  double left = 0;
+  double top = 0;
   double width = 0;
   double height = 0;
 };
@@ -32,7 +34,8 @@ class Display {
  public:
   virtual ~Display() = default;
 
-  virtual DisplaySize Screen_Size() const = 0;
+  /// What panels leave free of the screen that the user works on.
+  virtual DisplayArea Available_Area() const = 0;
 
   /// The form has its fields, and its Load is still to run; it isn't shown yet. From here to
   /// `Form_Unloaded` the display may observe it. The form keeps ownership of all that it holds.

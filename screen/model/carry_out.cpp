@@ -16,6 +16,9 @@ void Carry_Out_On_Form(const UserEvent& event) {
       event.form.Set_Size(event.width, event.height);
       event.form.Resize();
       break;
+    case UserAction::kMove:
+      event.form.Set_Position(event.left, event.top);
+      break;
     case UserAction::kCloseBox:
       event.form.Close_Box();
       break;

@@ -22,7 +22,7 @@ class Desk {
   Desk(const Desk&) = delete;
   Desk& operator=(const Desk&) = delete;
 
-  DisplaySize Screen_Size() const { return display_.Screen_Size(); }
+  DisplayArea Available_Area() const { return display_.Available_Area(); }
 
   /// The form in front, or null when none is shown.
   Form* Active() const { return shown_.empty() ? nullptr : shown_.back(); }

@@ -33,6 +33,7 @@ std::optional<std::string> Field::Reason_To_Refuse(const UserEvent& event) const
     case UserAction::kHover:
     case UserAction::kActivate:
     case UserAction::kResize:
+    case UserAction::kMove:
     case UserAction::kCloseBox:
       break;
   }

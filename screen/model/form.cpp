@@ -28,10 +28,14 @@ void Form::Set_Size(double width, double height) {
   Set_Place({place_.left, place_.top, width, height});
 }
 
+void Form::Set_Position(double left, double top) {
+  Set_Place({left, top, place_.width, place_.height});
+}
+
 void Form::Centre() {
-  const DisplaySize screen = desk_.Screen_Size();
-  Set_Place({(screen.width - place_.width) / 2, (screen.height - place_.height) / 2, place_.width,
-             place_.height});
+  const DisplayArea screen = desk_.Available_Area();
+  Set_Position(screen.left + (screen.width - place_.width) / 2,
+               screen.top + (screen.height - place_.height) / 2);
 }
 
 void Form::Set_MousePointer(norvane::MousePointer pointer) {

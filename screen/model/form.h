@@ -43,7 +43,8 @@ class Form {
   const norvane::Place& Place() const { return place_; }
   void Set_Place(const norvane::Place& place);
   void Set_Size(double width, double height);
-  /// Moves the form to the middle of the screen.
+  void Set_Position(double left, double top);
+  /// Moves the form to the middle of the part of the screen that windows may lie on.
   void Centre();
 
   norvane::MousePointer MousePointer() const { return mouse_pointer_; }

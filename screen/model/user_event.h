@@ -18,6 +18,7 @@ enum class UserAction {
   kPickRows,  ///< a drag from row `first` to row `last` of a grid, and the mouse let go
   kActivate,  ///< the form is brought to the front
   kResize,    ///< the form gets the size `width` by `height`, in twips
+  kMove,  ///< the form comes to lie at `left` and `top`, in twips, and isn't brought to the front
   kCloseBox,
 };
 
@@ -29,6 +30,8 @@ struct UserEvent {
   std::string text = {};
   int first = 0;
   int last = 0;
+  double left = 0;
+  double top = 0;
   double width = 0;
   double height = 0;
 };

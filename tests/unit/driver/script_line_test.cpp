@@ -57,6 +57,7 @@ TEST(AScriptLine, SaysWhatTheUserDoes) {
       {"activate Lang", UserAction::kActivate},
       {"rows Total.grdResult 1 2", UserAction::kPickRows},
       {"resize Total 1 2", UserAction::kResize},
+      {"move Total 1 2", UserAction::kMove},
       {"close Lang", UserAction::kCloseBox},
   };
   for (const auto& [text, action] : lines) {
@@ -104,6 +105,8 @@ TEST(AScriptLine, HasTheNumbersOfItsVerb) {
   EXPECT_EQ(std::pair(rows.first, rows.last), std::pair(2, 5));
   const ScriptLine size = Parsed("resize Total  1000   -9000");
   EXPECT_EQ(std::pair(size.first, size.last), std::pair(1000, -9000));
+  const ScriptLine place = Parsed("move Warmt -15 30");
+  EXPECT_EQ(std::pair(place.first, place.last), std::pair(-15, 30));
 }
 
 TEST(AScriptLine, SetsUpTheWorldAroundTheProgram) {
@@ -169,6 +172,8 @@ TEST(AScriptLine, IsNotUnderstoodWhereAnythingElseStands) {
                            "resize Warmt 1",
                            "resize Warmt a b",
                            "resize txtmtrs 1 2",
+                           "move Warmt 1",
+                           "move txtmtrs 1 2",
                            "hover",
                            "hover a.b",
                            "get",
@@ -216,8 +221,8 @@ TEST(ALineOfAnEvent, IsUnderstoodAsThatEvent) {
     UserEvent event{action, form, field, "a\t\\ \xE9 "};
     event.first = first;
     event.last = last;
-    event.width = first;
-    event.height = last;
+    (action == UserAction::kMove ? event.left : event.width) = first;
+    (action == UserAction::kMove ? event.top : event.height) = last;
     const std::string line = Line_Of(event, 0);
     EXPECT_EQ(Parsed(line).verb, Verb::kEvent) << line;
     EXPECT_EQ(Parsed(line).action, action) << line;
@@ -238,6 +243,7 @@ TEST(ALineOfAnEvent, IsUnderstoodAsThatEvent) {
             "rows Total.grdResult 1 12");
   EXPECT_EQ(line_of(UserAction::kActivate, *forms.lang, nullptr, 0, 0), "activate Lang");
   EXPECT_EQ(line_of(UserAction::kResize, *forms.lang, nullptr, 9000, -5), "resize Lang 9000 -5");
+  EXPECT_EQ(line_of(UserAction::kMove, *forms.lang, nullptr, 9000, -5), "move Lang 9000 -5");
   EXPECT_EQ(line_of(UserAction::kCloseBox, *forms.lang, nullptr, 0, 0), "close Lang");
 }
 

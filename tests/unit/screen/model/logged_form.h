@@ -20,7 +20,7 @@ class LoggedDisplay : public Display {
  public:
   explicit LoggedDisplay(Log& log) : log_(log) {}
 
-  DisplaySize Screen_Size() const override { return {15360, 11520}; }
+  DisplayArea Available_Area() const override { return {0, 0, 15360, 11520}; }
   void Form_Loaded(Form& form) override { log_.push_back("display gets " + form.Name()); }
   void Form_Unloaded(Form& form) override { log_.push_back("display loses " + form.Name()); }
   void Run_Modal(Form& form) override {

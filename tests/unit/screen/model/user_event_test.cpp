@@ -182,5 +182,14 @@ TEST_F(AnEventOfAUser, OnAFormGivesItItsSize) {
   EXPECT_EQ(desk_.Logged(), Log{"Form Resize"});
 }
 
+TEST_F(AnEventOfAUser, OnAFormGivesItItsPlaceAndRunsNothing) {
+  UserEvent event{UserAction::kMove, form_};
+  event.left = -300;
+  event.top = 450;
+  Carry_Out(desk_.desk, event);
+  EXPECT_EQ(form_.Place(), (Place{-300, 450, 12000, 9000}));
+  EXPECT_EQ(desk_.Logged(), Log{});
+}
+
 }  // namespace
 }  // namespace norvane
