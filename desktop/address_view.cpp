@@ -9,8 +9,7 @@
 
 namespace norvane {
 
-AddressView::AddressView(Desktop& desktop, Address& address) : FormView(desktop, address) {
-  Close_By_Escape();
+AddressView::AddressView(Desktop& desktop, Address& address) : BareView(desktop, address) {
   auto* page = new QGridLayout(this);
   page->setContentsMargins(12, 8, 10, 12);
   page->setColumnStretch(0, 1);

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "catalogue/address_form.h"
-#include "desktop/form_view.h"
+#include "desktop/bare_view.h"
 
 namespace norvane {
 
 /// The list of addresses.
-class AddressView : public FormView {
+class AddressView : public BareView {
   Q_OBJECT
 
  public:

@@ -19,6 +19,8 @@
 #include <utility>
 
 #include "desktop/form_view.h"
+#include "desktop/main_view.h"
+#include "desktop/placement.h"
 #include "desktop/twips.h"
 #include "desktop/views.h"
 #include "frame/version.h"
@@ -115,9 +117,29 @@ std::optional<std::vector<std::string>> Desktop::Font_Names() const {
 }
 
 DisplayArea Desktop::Available_Area() const {
-  const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+  const QRect area = Work_Area();
   return {To_Twips(area.left()), To_Twips(area.top()), To_Twips(area.width()),
           To_Twips(area.height())};
+}
+
+QRect Desktop::Work_Area() const {
+  std::vector<ScreenArea> screens;
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    screens.push_back({screen->geometry(), screen->availableGeometry()});
+  }
+  return Available_Area_For(Main_Window_Frame(), screens);
+}
+
+FormView* Desktop::Main_Window() const {
+  for (const auto& [form, view] : views_) {
+    if (view->isVisible() && qobject_cast<MainView*>(view) != nullptr) return view;
+  }
+  return nullptr;
+}
+
+QRect Desktop::Main_Window_Frame() const {
+  const FormView* main_window = Main_Window();
+  return main_window == nullptr ? QRect() : main_window->windowHandle()->frameGeometry();
 }
 
 void Desktop::Form_Loaded(Form& form) { views_[&form] = Make_View(*this, form); }

@@ -70,6 +70,12 @@ class Desktop : public Platform, public Display {
   /// The program's folder.
   const std::filesystem::path& Folder() const { return folder_; }
   Program& program() { return program_; }
+  /// The window of the main screen while it is shown, or null.
+  FormView* Main_Window() const;
+  /// That window with its frame; empty while it isn't shown.
+  QRect Main_Window_Frame() const;
+  /// What panels leave free of the screen that the main window is on.
+  QRect Work_Area() const;
   /// The window of a form, or null while the form isn't loaded.
   FormView* View_Of(const Form& form) const;
 

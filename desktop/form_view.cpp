@@ -1,5 +1,6 @@
 #include "desktop/form_view.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMouseEvent>
 #include <QShortcut>
@@ -23,6 +24,7 @@ FormView::~FormView() { Detach(); }
 
 void FormView::Detach() {
   if (form_ == nullptr) return;
+  Leave_Main_Window();
   form_->Set_Observer(nullptr);
   form_ = nullptr;
   changed_.clear();
@@ -92,10 +94,12 @@ void FormView::Note_Change(Binder& binder) {
 void FormView::Form_Changed(FormAttribute attribute) {
   form_changed_ = true;
   if (attribute == FormAttribute::kActive) brought_to_front_ = true;
-  if (attribute == FormAttribute::kShown && !form_->Shown() && modal_loop_ != nullptr) {
-    modal_loop_->quit();
-    modal_loop_ = nullptr;
-  }
+  if (attribute == FormAttribute::kPlace && !telling_place_) place_changed_ = true;
+  if (attribute != FormAttribute::kShown || form_->Shown()) return;
+  Leave_Main_Window();
+  if (modal_loop_ == nullptr) return;
+  modal_loop_->quit();
+  modal_loop_ = nullptr;
 }
 
 void FormView::Decode_Anew() {
@@ -113,7 +117,7 @@ void FormView::Show_Changes() {
     if (form_ == nullptr) return;
   }
   Arrange();
-  if (size_untold_) QTimer::singleShot(0, this, &FormView::Tell_Size);
+  if (place_untold_) Tell_Place_Later();
   if (std::exchange(form_changed_, false)) Show_Window();
   if (form_ == nullptr) return;
   if (const Field* focused = std::exchange(focused_, nullptr)) {
@@ -121,17 +125,28 @@ void FormView::Show_Changes() {
   }
 }
 
+bool FormView::Has_Keyboard() const {
+  // Qt counts a dialog as active while the window that it belongs to is.
+  return QApplication::activeWindow() == this;
+}
+
 void FormView::Show_Window() {
   setWindowTitle(desktop_.Text(form_->Caption()));
   setCursor(form_->MousePointer() == MousePointer::kHourglass ? Qt::WaitCursor : Qt::ArrowCursor);
+  const bool place_changed = std::exchange(place_changed_, false);
   if (form_->Shown() && !isVisible()) {
+    // In this order: of a window that is there already Qt takes the place as that of its inside.
     Place_Window();
+    Belong_To_Main_Window();
+    framed_ = false;
     show();
   } else if (!form_->Shown() && isVisible()) {
     hide();
+  } else if (place_changed && isVisible()) {
+    Place_Window();
   }
   // Not for a window that the user has just activated: two that ask by turns would never rest.
-  if (std::exchange(brought_to_front_, false) && isVisible() && !isActiveWindow()) {
+  if (std::exchange(brought_to_front_, false) && isVisible() && !Has_Keyboard()) {
     raise();
     activateWindow();
   }
@@ -139,16 +154,6 @@ void FormView::Show_Window() {
 
 void FormView::Close_By_Escape() {
   new QShortcut(Qt::Key_Escape, this, [this] { Send(UserAction::kCloseBox); });
-}
-
-void FormView::Place_Window() {
-  const Place& place = form_->Place();
-  const QSize wanted =
-      QSize(To_Pixels(place.width), To_Pixels(place.height)).expandedTo(minimumSizeHint());
-  resize(wanted);
-  // A window that needs more than its form's size keeps the middle that the form gives it.
-  move(To_Pixels(place.left + place.width / 2) - wanted.width() / 2,
-       To_Pixels(place.top + place.height / 2) - wanted.height() / 2);
 }
 
 void FormView::Show_Modal(QEventLoop& loop) {
@@ -182,27 +187,10 @@ void FormView::closeEvent(QCloseEvent* event) {
 
 void FormView::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) Send(UserAction::kActivate);
-}
-
-void FormView::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  // Later, since a window is also resized while the program's changes are being shown.
-  size_untold_ = true;
-  QTimer::singleShot(0, this, &FormView::Tell_Size);
-}
-
-void FormView::Tell_Size() {
-  if (form_ == nullptr || !form_->Shown() || !size_untold_) return;
-  // Behind a dialog the program takes no events; it is told when the dialog has gone.
-  const Form* modal = desktop_.program().State().desk.Modal();
-  if (modal != nullptr && modal != form_) return;
-  size_untold_ = false;
-  UserEvent resized{UserAction::kResize, *form_};
-  resized.width = To_Twips(width());
-  resized.height = To_Twips(height());
-  if (resized.width == form_->Place().width && resized.height == form_->Place().height) return;
-  desktop_.Answer(resized);
+  if (event->type() != QEvent::ActivationChange || !Has_Keyboard()) return;
+  // By now the window manager has put its frame around the window.
+  Tell_Place_Later();
+  Send(UserAction::kActivate);
 }
 
 void FormView::mouseMoveEvent(QMouseEvent* event) {

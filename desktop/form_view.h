@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QEventLoop>
+#include <QMargins>
 #include <QWidget>
 #include <memory>
 #include <unordered_map>
@@ -59,6 +60,7 @@ class FormView : public QWidget, public FormObserver {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
 
@@ -68,15 +70,24 @@ class FormView : public QWidget, public FormObserver {
   void Give_Letters(const std::vector<const Field*>& fields);
   /// The Escape key does what the window's close box does.
   void Close_By_Escape();
-  /// Puts the window to its place on the screen before it is shown.
-  virtual void Place_Window();
+  /// Where the upper left of the window's frame is to lie, for an inside of this size.
+  virtual QPoint Wished_Place(const QSize& size) const;
+  /// What the window manager puts around the window; before the first window is there, about that.
+  QMargins Frame() const;
 
  private:
   void Keep(std::unique_ptr<Binder> binder);
   void Note_Change(Binder& binder);
   void Choose_Letters_Anew();
   void Show_Window();
-  void Tell_Size();
+  bool Has_Keyboard() const;
+  void Belong_To_Main_Window();
+  void Leave_Main_Window();
+  void Place_Window();
+  void Let_Scroll();
+  void Tell_Place_Later();
+  void Tell_Place();
+  bool Is_Newly_Framed();
 
   Desktop& desktop_;
   Form* form_;
@@ -87,7 +98,12 @@ class FormView : public QWidget, public FormObserver {
   bool letters_outdated_ = false;
   Field* focused_ = nullptr;
   bool form_changed_ = true;
-  bool size_untold_ = false;
+  bool place_changed_ = false;  ///< by the program
+  bool place_untold_ = false;   ///< changed by the user or the window manager
+  bool telling_place_ = false;
+  bool made_smaller_ = false;  ///< than it should be, for want of room
+  bool framed_ = false;        ///< by the window manager, since the window was shown
+  QWidget* scrolled_page_ = nullptr;
   bool brought_to_front_ = false;
   QEventLoop* modal_loop_ = nullptr;
 };

@@ -38,8 +38,7 @@ class TickMark : public QWidget {
 
 }  // namespace
 
-LanguageView::LanguageView(Desktop& desktop, Lang& lang) : FormView(desktop, lang) {
-  Close_By_Escape();
+LanguageView::LanguageView(Desktop& desktop, Lang& lang) : BareView(desktop, lang) {
   auto* page = new QVBoxLayout(this);
   page->setContentsMargins(18, 8, 10, 18);
   page->addWidget(Make_List(lang));

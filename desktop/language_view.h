@@ -1,12 +1,12 @@
 #pragma once
 
-#include "desktop/form_view.h"
+#include "desktop/bare_view.h"
 #include "frame/lang_form.h"
 
 namespace norvane {
 
 /// The list of languages: element i in the left column if i is even, in the right one if it is odd.
-class LanguageView : public FormView {
+class LanguageView : public BareView {
   Q_OBJECT
 
  public:

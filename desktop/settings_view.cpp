@@ -101,13 +101,13 @@ void SettingsView::Arrange() {
   name(settings_.Text3, settings_.Label2.Caption());
 }
 
-void SettingsView::Place_Window() {
-  FormView::Place_Window();
+QPoint SettingsView::Wished_Place(const QSize& size) const {
   // The form names no place: over the main screen, where the user looks.
-  auto& warmt = desktop().program().State().forms.warmt;
-  if (!warmt.Loaded()) return;
-  const QWidget* main_screen = desktop().View_Of(warmt.Get());
-  if (main_screen->isVisible()) move(main_screen->geometry().center() - rect().center());
+  const QRect main_window = desktop().Main_Window_Frame();
+  if (main_window.isEmpty()) return FormView::Wished_Place(size);
+  QRect outside({}, size.grownBy(Frame()));
+  outside.moveCenter(main_window.center());
+  return outside.topLeft();
 }
 
 void SettingsView::showEvent(QShowEvent* event) {

@@ -18,7 +18,7 @@ class SettingsView : public FormView {
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void Arrange() override;
-  void Place_Window() override;
+  QPoint Wished_Place(const QSize& size) const override;
 
  private:
   void Add_Saving_Row(QGridLayout& grid, int row, CaptionField& heading, TextField& field,

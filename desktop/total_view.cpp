@@ -15,6 +15,9 @@ namespace norvane {
 
 TotalView::TotalView(Desktop& desktop, Total& total)
     : FormView(desktop, total), delete_(new QPushButton) {
+  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                 Qt::WindowSystemMenuHint | Qt::WindowMaximizeButtonHint |
+                 Qt::WindowCloseButtonHint);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(8, 8, 8, 8);
   auto* tools = new QHBoxLayout;
