@@ -29,7 +29,13 @@ bool Waits_For_Dialog(const QWidget& window) {
 /// As the window manager does with a window that is clicked.
 void Bring_To_Front(QWidget& window) {
   if (QApplication::activeWindow() == &window) return;
+  // From a dialog to the window that it belongs to Qt moves the focus by itself, and an older event
+  // than the window manager's last would be passed over.
+  QWindow* focused = QGuiApplication::focusWindow();
+  QWindow* owner = focused == nullptr ? nullptr : focused->transientParent();
+  if (owner != nullptr) focused->setTransientParent(nullptr);
   window.activateWindow();
+  if (owner != nullptr) focused->setTransientParent(owner);
   EXPECT_TRUE(Comes_To_Front(window)) << "the window doesn't come to the front";
 }
 
