@@ -20,7 +20,7 @@ install_packages "to run all tests of Norvane" \
   libreoffice-calc libreoffice-dev libxlsxwriter-dev libminizip-dev libexpat1-dev locales python3-openpyxl \
   python3-uno xdotool \
   exfat-fuse exfatprogs at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi python3-xlib libxres-dev git \
-  python3 parallel groff pkg-config
+  python3 parallel groff pkg-config poppler-utils
 
 echo "== release"
 cmake --preset release -DNORVANE_WERROR=ON >/dev/null

@@ -10,6 +10,7 @@
 #include "desktop/input_card.h"
 #include "desktop/object_card.h"
 #include "desktop/own_commands.h"
+#include "desktop/report_window.h"
 #include "desktop/result_card.h"
 #include "desktop/schedule/schedule_window.h"
 #include "desktop/tool_strip.h"
@@ -38,7 +39,7 @@ MainView::MainView(Desktop& desktop, Warmt& warmt)
   lettered.push_back(&warmt.cmdAdd);
   Give_Letters(lettered);
   commands_->Add(TextId::kCompare, QKeySequence("Ctrl+T"), [this] { Compare(); });
-
+  commands_->Add(TextId::kReport, QKeySequence("Ctrl+P"), [this] { Report(); });
   commands_->Add(TextId::kSchedule, Qt::CTRL | Qt::Key_L, [this] { Show_Schedule(); });
   desktop.Ask_Before_Leaving(
       [this] { return schedule_ == nullptr || schedule_->Let_Go_Of_Changes(); });
@@ -100,12 +101,19 @@ void MainView::showEvent(QShowEvent* event) {
 
 void MainView::hideEvent(QHideEvent* event) {
   FormView::hideEvent(event);
-  if (compare_ != nullptr && form() == nullptr) compare_->hide();
+  if (form() != nullptr) return;
+  if (compare_ != nullptr) compare_->hide();
+  if (report_ != nullptr) report_->hide();
 }
 
 void MainView::Compare() {
   if (compare_ == nullptr) compare_ = new CompareWindow(*this, warmt_);
   compare_->Open();
+}
+
+void MainView::Report() {
+  if (report_ == nullptr) report_ = new ReportWindow(*this, warmt_);
+  report_->Open();
 }
 
 void MainView::Arrange() {
@@ -118,6 +126,7 @@ void MainView::Arrange() {
   commands_->Follow_Language();
   if (compare_ != nullptr) compare_->Follow();
   if (schedule_ != nullptr) schedule_->Follow_Language();
+  if (report_ != nullptr) report_->Follow();
   const Button& mode = warmt_.Calc_Mode == "T" ? warmt_.cmdToolBarT : warmt_.cmdToolBarC;
   results_->Name_Values(desktop().Text(warmt_.Tooltip_Of(mode)));
 }

@@ -11,6 +11,7 @@ class CompareWindow;
 class InputCard;
 class ObjectCard;
 class OwnCommands;
+class ReportWindow;
 class ResultCard;
 class ScheduleWindow;
 class ToolStrip;
@@ -35,13 +36,15 @@ class MainView : public FormView {
   QWidget* Make_Foot();
   void Compare();
   void Show_Schedule();
+  void Report();
 
   Warmt& warmt_;
   ToolStrip* tools_;
   InputCard* inputs_;
   ResultCard* results_;
   ObjectCard* object_;
-  CompareWindow* compare_ = nullptr;  ///< made at its first use
+  CompareWindow* compare_ = nullptr;  ///< made at its first use, as the next
+  ReportWindow* report_ = nullptr;
   OwnCommands* commands_;
   std::unique_ptr<ScheduleWindow> schedule_;  ///< once it was asked for
 };

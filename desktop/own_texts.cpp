@@ -73,6 +73,16 @@ const char* In_English(TextId text) {
       return "The file can't be used.";
     case TextId::kRemark:
       return "Remark";
+    case TextId::kReport:
+      return "Report";
+    case TextId::kProject:
+      return "Project";
+    case TextId::kPrint:
+      return "Print";
+    case TextId::kSavePdf:
+      return "Save as PDF";
+    case TextId::kFormulas:
+      return "Formulas";
     case TextId::kDeleteMarkedLines:
       return "Delete marked lines";
     default:

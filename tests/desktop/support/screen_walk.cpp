@@ -41,7 +41,7 @@ void ScreenWalk::Walk_In(const std::string& code) {
   Walk_Through_Settings();
   Save_Lines();
   Walk_Through_Totals();
-  Walk_Through_Comparison();
+  Walk_Through_Own_Windows();
   Walk_Through_Tooltips();
   Walk_Through_Large_Values();
   Walk_Through_Schedule();
@@ -182,7 +182,7 @@ void ScreenWalk::Save_Lines() {
   Show("lines-saved", Screen());
 }
 
-void ScreenWalk::Walk_Through_Comparison() {
+void ScreenWalk::Walk_Through_Own_Windows() {
   Change_Prices(desktop.files(), [](Prices& prices) {
     prices.energy[0] = 1.2;
     prices.of_pipe = {{13, 4.2}, {20, 5.5}, {30, 8.9}};
@@ -191,6 +191,12 @@ void ScreenWalk::Walk_Through_Comparison() {
   auto* comparison = Main_View().findChild<QWidget*>("compare");
   ASSERT_TRUE(comparison != nullptr && Comes_To_Front(*comparison)) << "no comparison";
   Show("comparison", *comparison);
+  Press(Qt::Key_Escape);
+  Wait_Until_Active(Screen());
+  Press(Qt::Key_P, Qt::ControlModifier);
+  auto* report = Main_View().findChild<QWidget*>("report");
+  ASSERT_TRUE(report != nullptr && Comes_To_Front(*report)) << "no report";
+  Show("report", *report);
   Press(Qt::Key_Escape);
   Wait_Until_Active(Screen());
 }

@@ -38,7 +38,7 @@ class ScreenWalk : public DesktopTest {
   void Walk_Through_Settings();
   void Save_Lines();
   void Walk_Through_Totals();
-  void Walk_Through_Comparison();
+  void Walk_Through_Own_Windows();
   void Walk_Through_Tooltips();
   void Show_Tooltip(const std::string& name, const Button& button);
   void Walk_Through_Large_Values();

@@ -1,0 +1,155 @@
+#include "desktop/report_window.h"
+
+#include <QBuffer>
+#include <QDate>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrintPreviewWidget>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QScreen>
+#include <QShortcut>
+
+#include "desktop/accessible.h"
+#include "desktop/desktop.h"
+#include "desktop/form_view.h"
+#include "desktop/own_texts.h"
+#include "frame/version.h"
+#include "report/calculation_report.h"
+#include "report/kept_prices.h"
+
+namespace norvane {
+namespace {
+
+const QPageLayout kPage(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(20, 15, 15, 15),
+                        QPageLayout::Millimeter);
+
+}  // namespace
+
+ReportWindow::ReportWindow(FormView& main, Warmt& warmt)
+    : QWidget(&main, Qt::Window),
+      main_(main),
+      warmt_(warmt),
+      printer_(QPrinter::HighResolution),
+      preview_(new QPrintPreviewWidget(&printer_)) {
+  setObjectName("report");
+  printer_.setPageLayout(kPage);
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(Make_Actions());
+  column->addWidget(preview_, 1);
+  connect(preview_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) {
+    if (pages_ != nullptr) pages_->Paint(*printer);
+  });
+  new QShortcut(Qt::Key_Escape, this, [this] { close(); });
+  new QShortcut(QKeySequence::Print, this, [this] { Print(); });
+  new QShortcut(QKeySequence::Save, this, [this] { Ask_Where_To_Save(); });
+}
+
+ReportWindow::~ReportWindow() = default;
+
+QWidget* ReportWindow::Make_Actions() {
+  constexpr int kProjectWidth = 220;
+  auto* actions = new QWidget;
+  auto* row = new QHBoxLayout(actions);
+  row->setContentsMargins(0, 0, 0, 0);
+  project_heading_ = new QLabel;
+  project_ = new QLineEdit;
+  project_->setObjectName("report_project");
+  project_->setMinimumWidth(kProjectWidth);
+  project_heading_->setBuddy(project_);
+  print_ = new QPushButton;
+  save_ = new QPushButton;
+  row->addWidget(project_heading_);
+  row->addWidget(project_, 1);
+  row->addWidget(print_);
+  row->addWidget(save_);
+  connect(project_, &QLineEdit::textEdited, this, &ReportWindow::Follow);
+  connect(project_, &QLineEdit::editingFinished, this, &ReportWindow::Keep_Project);
+  connect(print_, &QPushButton::clicked, this, &ReportWindow::Print);
+  connect(save_, &QPushButton::clicked, this, &ReportWindow::Ask_Where_To_Save);
+  return actions;
+}
+
+void ReportWindow::Open() {
+  if (!isVisible()) {
+    constexpr QSize kWanted(620, 820);
+    constexpr double kMostOfScreen = 0.9;
+    project_->setText(QString::fromStdString(Kept_Prices(main_.desktop().files()).project));
+    project_->setModified(false);
+    Show_All();
+    resize(kWanted.boundedTo(screen()->availableSize() * kMostOfScreen));
+    project_->setFocus();
+    show();
+  }
+  raise();
+  activateWindow();
+}
+
+void ReportWindow::Follow() {
+  if (isVisible() && main_.form() != nullptr) Show_All();
+}
+
+void ReportWindow::Show_All() {
+  const Desktop& desktop = main_.desktop();
+  const auto wording = [&desktop](TextId id) { return Own_Text(desktop, id).toStdString(); };
+  const QString title = Own_Text(desktop, TextId::kReport);
+  if (windowTitle() != title) setWindowTitle(title);
+  project_heading_->setText(Own_Text(desktop, TextId::kProject));
+  print_->setText(Own_Text(desktop, TextId::kPrint));
+  save_->setText(Own_Text(desktop, TextId::kSavePdf));
+  Tell(*project_, project_heading_->text());
+  Tell(*preview_, title);
+  const Module1& module1 = main_.desktop().program().State();
+  const ReportFrame frame{project_->text().simplified(),
+                          QLocale().toString(QDate::currentDate(), QLocale::ShortFormat)};
+  auto pages = std::make_unique<ReportPages>(desktop, Report_Of(module1, warmt_, wording), frame);
+  const bool same = pages_ != nullptr && pages_->Html() == pages->Html();
+  pages_ = std::move(pages);
+  if (!same) preview_->updatePreview();
+}
+
+void ReportWindow::Keep_Project() {
+  if (!project_->isModified()) return;
+  project_->setModified(false);
+  const std::string name = project_->text().simplified().toStdString();
+  Change_Prices(main_.desktop().files(), [&](Prices& prices) { prices.project = name; });
+}
+
+void ReportWindow::Print() {
+  Keep_Project();
+  QPrintDialog dialog(&printer_, this);
+  if (dialog.exec() == QDialog::Accepted) pages_->Paint(printer_);
+}
+
+void ReportWindow::Ask_Where_To_Save() {
+  Keep_Project();
+  const QString path =
+      QFileDialog::getSaveFileName(this, save_->text(), windowTitle() + ".pdf", "PDF (*.pdf)");
+  if (path.isEmpty()) return;
+  const QString problem = Save_As(path);
+  if (!problem.isEmpty()) QMessageBox::warning(this, windowTitle(), path + "\n" + problem);
+}
+
+QString ReportWindow::Save_As(const QString& path) {
+  QBuffer bytes;
+  bytes.open(QIODevice::WriteOnly);
+  {
+    QPdfWriter pdf(&bytes);
+    pdf.setPageLayout(kPage);
+    pdf.setTitle(windowTitle());
+    pdf.setCreator(kTitle);
+    pages_->Paint(pdf);
+  }
+  QSaveFile file(path);
+  const bool saved =
+      file.open(QIODevice::WriteOnly) && file.write(bytes.data()) == bytes.size() && file.commit();
+  return saved ? QString() : file.errorString();
+}
+
+}  // namespace norvane
