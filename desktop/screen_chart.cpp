@@ -26,8 +26,8 @@ ScreenChart::ScreenChart(FormView& view, Warmt& warmt) : view_(view), warmt_(war
 }
 
 void ScreenChart::Draw_Anew() {
-  if (view_.form() == nullptr) return;
   Desktop& desktop = view_.desktop();
+  if (view_.form() == nullptr || desktop.program().Ended()) return;
   const Module1& state = desktop.program().State();
   Subject subject{Heat_Loss_On_Screen(state, warmt_), Condensation_On_Screen(state, warmt_),
                   state.Lang_Index};

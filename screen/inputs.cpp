@@ -1,5 +1,6 @@
 #include "screen/inputs.h"
 
+#include "data/runtime_error.h"
 #include "frame/shared_state.h"
 #include "screen/warmt.h"
 
@@ -42,16 +43,26 @@ CondensInput Condensation_Input(const Module1& module1, Warmt& warmt) {
   return input;
 }
 
+// A field keeps what has ended the program, while the message about it stands.
+
 std::optional<HeatFlowInput> Heat_Loss_On_Screen(const Module1& module1, Warmt& warmt) {
   if (warmt.Calc_Mode != "T" || !Shows_Results(warmt)) return std::nullopt;
-  HeatFlowInput input = In_Numbers(Heat_Loss_Input(module1, warmt), module1.Locale());
-  input.Alpha = module1.Alpha;
-  return input;
+  try {
+    HeatFlowInput input = In_Numbers(Heat_Loss_Input(module1, warmt), module1.Locale());
+    input.Alpha = module1.Alpha;
+    return input;
+  } catch (const RuntimeError&) {
+    return std::nullopt;
+  }
 }
 
 std::optional<CondensationOnScreen> Condensation_On_Screen(const Module1& module1, Warmt& warmt) {
   if (warmt.Calc_Mode == "T" || !Shows_Results(warmt)) return std::nullopt;
-  return CondensationOnScreen{Condensation_Input(module1, warmt), module1.Alpha};
+  try {
+    return CondensationOnScreen{Condensation_Input(module1, warmt), module1.Alpha};
+  } catch (const RuntimeError&) {
+    return std::nullopt;
+  }
 }
 
 std::vector<double> Known_Humidities(const Warmt& warmt) {

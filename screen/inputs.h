@@ -18,7 +18,7 @@ HeatLossInput Heat_Loss_Input(const Module1& module1, Warmt& warmt);
 CondensInput Condensation_Input(const Module1& module1, Warmt& warmt);
 
 // What the results that show were calculated of, which is the same with the alpha in effect: the
-// field that carries alpha holds it rounded.
+// field that carries alpha holds it rounded. Nothing where a field holds what can't be calculated.
 
 /// Nothing in condensation.
 std::optional<HeatFlowInput> Heat_Loss_On_Screen(const Module1& module1, Warmt& warmt);

@@ -102,6 +102,13 @@ TEST_P(WhatTheScreenCalculates, IsNothingWhileTheResultsAreBlank) {
   EXPECT_FALSE(Heat_Loss_On_Screen(program_.State(), warmt_));
 }
 
+TEST_P(WhatTheScreenCalculates, IsNothingOnceANumberHasEndedTheProgram) {
+  program_.Click(warmt_.cmdToolBar1(GetParam()));
+  program_.Set(warmt_.txtT(0), "40000");
+  ASSERT_TRUE(program_.program.Failed());
+  EXPECT_FALSE(Heat_Loss_On_Screen(program_.State(), warmt_));
+}
+
 INSTANTIATE_TEST_SUITE_P(OfEachPipe, WhatTheScreenCalculates,
                          testing::Values(kSteelPipe, kCopperTube, kMetricPipe));
 

@@ -187,7 +187,7 @@ TEST_F(AnEventOfAUser, OnAFormGivesItItsPlaceAndRunsNothing) {
   event.left = -300;
   event.top = 450;
   Carry_Out(desk_.desk, event);
-  EXPECT_EQ(form_.Place(), (Place{-300, 450, 12000, 9000}));
+  EXPECT_EQ(form_.Place(), (Place{-300, 450, 3000, 2000}));
   EXPECT_EQ(desk_.Logged(), Log{});
 }
 
