@@ -63,6 +63,7 @@ void FormView::Place_Window() {
       Place_Inside(desktop_.Work_Area(), {Wished_Place(size), size, least, Frame()}, scroll_bar);
   if (placed.scrolls && scrolled_page_ == nullptr) Let_Scroll();
   made_smaller_ = placed.size != size;
+  placed_size_ = placed.size;
   resize(placed.size);
   move(placed.place);
 }
@@ -115,7 +116,8 @@ bool FormView::Is_Newly_Framed() {
 void FormView::Tell_Place() {
   if (form_ == nullptr || !form_->Shown() || !isVisible() || isMinimized() || !place_untold_)
     return;
-  if (Is_Newly_Framed() && !isMaximized() &&
+  // A size that the user has given by then is his.
+  if (Is_Newly_Framed() && !isMaximized() && size() == placed_size_ &&
       (made_smaller_ || !desktop_.Work_Area().contains(windowHandle()->frameGeometry()))) {
     Place_Window();
   }

@@ -102,6 +102,7 @@ class FormView : public QWidget, public FormObserver {
   bool place_untold_ = false;   ///< changed by the user or the window manager
   bool telling_place_ = false;
   bool made_smaller_ = false;  ///< than it should be, for want of room
+  QSize placed_size_;          ///< that the window got when it was last placed
   bool framed_ = false;        ///< by the window manager, since the window was shown
   QWidget* scrolled_page_ = nullptr;
   bool brought_to_front_ = false;

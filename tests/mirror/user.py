@@ -6,6 +6,7 @@ import accessible
 from windows import FORMS, TOOLS
 
 ARROW_WIDTH = 22
+FRAME = 40  # pixels, as much as a window manager adds
 WORDS = ["80", "13", "0", "1", "10", "21", "5.99", "6", "2.5", "100", "100.5", "-1", "-50", "115",
          "116", "32767", "1e5", "24", "0,038", "0.038", "0.04", "12,5", "12.5", "abc", "12abc",
          "-", ".", "914", "0.5", "1 2", "7654321", "-32769", "365", "366"]
@@ -19,7 +20,7 @@ CLICKED = {  # fields that do something when they are clicked, by form
 
 
 class OutOfSight(Exception):
-    """It lies beside the screen, where no mouse comes."""
+    """It lies beside the screen or under another window, where no mouse comes."""
 
 
 class User:
@@ -40,10 +41,21 @@ class User:
     def front(self):
         return self.session.wanted.front()
 
-    def require_on_screen(self, *points):
+    def require_in_sight(self, form, *points):
         for x, y in points:
-            if not self.screen.reaches(x, y):
+            if not self.screen.reaches(x, y) or self.other_covers(form, x, y):
                 raise OutOfSight()
+
+    def other_covers(self, form, x, y):
+        """The other windows stay in front of the main one; among themselves the one that he uses is
+        in front."""
+        if form != "Warmt":
+            return False
+        tops = self.session.seen.tops
+        others = [tops[other] for other in tops if other not in (form, "About")]
+        return any(left - FRAME <= x < left + width + FRAME
+                   and top - FRAME <= y < top + height + FRAME
+                   for left, top, width, height in self.session.program.places(others))
 
     def tip_covers(self, x, y):
         tip = self.session.seen.fields.get("Warmt", {}).get("picToolTip")
@@ -94,7 +106,7 @@ class User:
         x = left + self.random.randrange(nearest, max(nearest + 1, width - 2))
         # The tip lies over the lower edge of its button.
         y = top + self.random.randrange(1, max(2, height - (8 if field in TOOLS else 1)))
-        self.require_on_screen((x, y))
+        self.require_in_sight(form, (x, y))
         if field != "LblTooltip" and self.tip_covers(x, y):
             self.leave()
         return [f"hover {form}.{field}"] if field in TOOLS else [], (x, y)
@@ -193,7 +205,7 @@ class User:
         top = self.session.seen.tops["Warmt"]
         left, up, width, height = self.session.program.place(top)
         x, y = left + 5, up + self.random.randrange(height // 2, height - 40)
-        self.require_on_screen((x, y))
+        self.require_in_sight("Warmt", (x, y))
         self.do(["hover Warmt"], lambda: self.session.move_to(x, y))
 
     def menu(self):
@@ -213,7 +225,7 @@ class User:
         tabs = self.node("Settings", "SSTab1").children
         node = [child for child in tabs if child.role == accessible.PAGE_TAB][tab]
         x, y = self.session.point_in(node)
-        self.require_on_screen((x, y))
+        self.require_in_sight("Settings", (x, y))
 
         def click():
             self.session.move_to(x, y)
@@ -244,7 +256,7 @@ class User:
         left, top, width, height = self.session.program.place(table)
         if any(not (left < x < left + width and top < y < top + height - 20) for x, y in places):
             return
-        self.require_on_screen(*places)
+        self.require_in_sight("Total", *places)
 
         def drag():
             self.session.move_to(*places[0])
@@ -280,7 +292,7 @@ class User:
             if y >= top + height - 20:
                 return
             button = self.random.choice([2, 3])
-        self.require_on_screen((x, y))
+        self.require_in_sight("Total", (x, y))
         self.do([], lambda: self.session.move_to(x, y))
         self.do(["click Total.grdResult"], lambda: self.screen.click(button))
 
