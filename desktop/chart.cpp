@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPalette>
+#include <array>
 #include <cmath>
 
 #include "desktop/colours.h"
@@ -15,8 +16,8 @@ constexpr qreal kThick = 2;  // the lines
 
 QPen Pen_Of(std::size_t line, const ChartColours& colours) {
   // Those who don't tell the colours apart tell the dashes.
-  constexpr Qt::PenStyle kStyles[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine};
-  QPen pen(colours.lines[line], kThick, kStyles[line]);
+  constexpr std::array<Qt::PenStyle, 3> kStyles = {Qt::SolidLine, Qt::DashLine, Qt::DotLine};
+  QPen pen(colours.lines[line], kThick, kStyles.at(line));
   pen.setCapStyle(Qt::FlatCap);
   return pen;
 }
