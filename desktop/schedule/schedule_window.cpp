@@ -196,7 +196,7 @@ void ScheduleWindow::Add_Present() {
 void ScheduleWindow::Add_Empty() {
   ScheduleDocument& document = session_.Document();
   const auto [first, count] = table_->Marked_Rows();
-  const auto at = static_cast<std::size_t>(first + count);
+  const auto at = static_cast<std::size_t>(first) + static_cast<std::size_t>(count);
   document.Insert(at, {document.Table().Empty_Line()});
   Mark(RowChange{at, 0, 1});
 }
