@@ -13,7 +13,7 @@ install_packages "to build and run Norvane" \
 
 mkdir -p build
 cmake -S . -B build/run -G Ninja -DCMAKE_BUILD_TYPE=Release -DNORVANE_TESTS=OFF \
-  -DNORVANE_FOLDER="$PWD/build/norvane" >build/run.log 2>&1 || { cat build/run.log; exit 1; }
+  -DNORVANE_HARDENED=ON -DNORVANE_FOLDER="$PWD/build/norvane" >build/run.log 2>&1 || { cat build/run.log; exit 1; }
 cmake --build build/run
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
