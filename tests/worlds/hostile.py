@@ -110,6 +110,17 @@ def own_link(program):
     return "stays one, and what it leads to is written"
 
 
+def roots_link(program):
+    """As whoever has installed the program may have laid it."""
+    folder = owned(program.folder(), 0, 0o755)
+    elsewhere = owned(program.new_place(), USER)
+    (folder / "norvane.ini").symlink_to(elsewhere / "kept.ini")
+    change(program, folder)
+    expect("a link", (folder / "norvane.ini").is_symlink(), True)
+    expect_kept(folder)
+    return "stays one, and what it leads to is written"
+
+
 def foretold_link(program):
     victim = private_file(program)
     folder = shared_folder(program)
@@ -173,6 +184,20 @@ def anothers_file(program):
     expect("owner", file.stat().st_uid, STRANGER)
     expect("left-overs", list(folder.glob("*.new")), [])
     return "that the user may not write to stays, though the folder would let it go"
+
+
+def group_of_others(program):
+    """Everybody may write, but only root and the group's own may give a file to the group."""
+    folder = shared_folder(program)
+    file = folder / "norvane.ini"
+    file.write_bytes(FRESH)
+    os.chown(file, STRANGER, STRANGER)
+    file.chmod(0o666)
+    change(program, folder)
+    expect("the settings", file.read_bytes(), FRESH)
+    expect("owner and group", (file.stat().st_uid, file.stat().st_gid), (STRANGER, STRANGER))
+    expect("left-overs", list(folder.glob("*.new")), [])
+    return "whose group the user isn't in can't be replaced and stays"
 
 
 def sticky(program):
@@ -295,58 +320,23 @@ def rests(program):
     return "go with a later writing, when they are ten minutes old and the user's own"
 
 
-def odd_language_files(program):
-    """Beside a good one."""
-    folder = owned(program.folder(languages=("en",)), USER)
-    os.mkfifo(folder / "language.laa")
-    with open(folder / "language.lbb", "wb") as huge:
-        huge.truncate(10_000_000_000)
-    for code, place in (("cc", "/dev/zero"), ("dd", "/proc/kmsg"), ("ee", "/proc/self/pagemap"),
-                        ("ff", "/proc/self/mem"), ("gg", "/dev/tty"), ("hh", "/proc/kcore")):
-        (folder / f"language.l{code}").symlink_to(place)
-    begin = time.monotonic()
-    lines = program.play(folder, "start\nget Label1(0)\n", **as_user())
-    expect("a start without waits", time.monotonic() - begin < 5, True)
-    said = [line for line in lines if line.startswith(b"message")]
-    expect("what is said", said,
-           8 * [b"message Norvane | Unable to find Language file | none | ok -> ok"])
-    expect("the good one is there", lines[-1][:12], b"Label1(0) = ")
-    return "each is reported as one that can't be opened, and the others are read as ever"
-
-
-def odd_addresses_and_settings(program):
-    for place in ("/dev/zero", "/proc/kmsg", "/proc/self/pagemap"):
-        folder = owned(program.folder(addresses=False), USER)
-        (folder / "Address001.txt").symlink_to(place)
-        (folder / "norvane.ini").symlink_to(place)
-        change(program, folder)
-    folder = owned(program.folder(addresses=False), USER)
-    for name in ("Address001.txt", "norvane.ini"):
-        with open(folder / name, "wb") as huge:
-            huge.truncate(10_000_000_000)
-        owned(folder / name, USER)
-    change(program, folder)
-    expect("the size of the settings", (folder / "norvane.ini").stat().st_size, 10_000_000_000)
-    return "no address, default settings, and nothing is written to them"
-
-
 WORLDS = [
     ("a folder that a stranger has locked", lock_of_a_stranger),
     ("a folder that can't be locked", no_locks),
     ("settings that a stranger's link leads to", planted_link),
     ("settings that a link of the folder's owner leads to", folder_owners_link),
     ("settings that the user's own link leads to", own_link),
+    ("settings that a link of root's leads to", roots_link),
     ("a link under a foretold name", foretold_link),
     ("a pipe under a foretold name", foretold_pipe),
     ("a pipe for settings", pipe),
     ("settings with a second name", hard_link),
     ("settings that a group shares", group_share),
     ("settings of another user", anothers_file),
+    ("settings of a group that the user isn't in", group_of_others),
     ("another user's settings in a sticky folder", sticky),
     ("a folder that can't be looked into", unreadable_folder),
     ("a disk that is blind to case", case_blind),
     ("another user who races", racer),
     ("what killed runs have left", rests),
-    ("pipes, devices, tables as language files", odd_language_files),
-    ("the same as addresses and settings", odd_addresses_and_settings),
 ]
