@@ -1,100 +1,69 @@
 #include "desktop/own_texts.h"
 
+#include <algorithm>
+
 #include "desktop/desktop.h"
 
 namespace norvane {
 namespace {
 
-const char* In_English(TextId text) {
-  switch (text) {
-    case TextId::kChooseValue:
-      return "Choose a value";
-    case TextId::kDewPoint:
-      return "Dew point";
-    case TextId::kNextSize:
-      return "Next size";
-    case TextId::kChart:
-      return "Chart";
-    case TextId::kAboveDewPoint:
-      return "Above the dew point";
-    case TextId::kNoSaving:
-      return "No saving";
-    case TextId::kCompare:
-      return "Compare";
-    case TextId::kEconomic:
-      return "economic";
-    case TextId::kPresentThickness:
-      return "current";
-    case TextId::kInsulationCost:
-      return "Insulation cost";
-    case TextId::kSavedPerYear:
-      return "Saved per year";
-    case TextId::kPaybackYears:
-      return "Payback (years)";
-    case TextId::kYearlyCost:
-      return "Yearly cost";
-    case TextId::kEnergyPrice:
-      return "Energy price";
-    case TextId::kYearsOfUse:
-      return "Years of use";
-    case TextId::kUseThickness:
-      return "Use this thickness";
-    case TextId::kCopy:
-      return "Copy";
-    case TextId::kSchedule:
-      return "Schedule";
-    case TextId::kAddPresent:
-      return "Add the present calculation";
-    case TextId::kDuplicate:
-      return "Duplicate";
-    case TextId::kDelete:
-      return "Delete";
-    case TextId::kMove:
-      return "Move";
-    case TextId::kName:
-      return "Name";
-    case TextId::kUndo:
-      return "Undo";
-    case TextId::kRedo:
-      return "Redo";
-    case TextId::kNew:
-      return "New";
-    case TextId::kOpen:
-      return "Open";
-    case TextId::kSave:
-      return "Save";
-    case TextId::kDiscard:
-      return "Don't save";
-    case TextId::kKeepChanges:
-      return "Keep the changes?";
-    case TextId::kRecovered:
-      return "Recovered changes, not saved yet";
-    case TextId::kUnusableFile:
-      return "The file can't be used.";
-    case TextId::kRemark:
-      return "Remark";
-    case TextId::kReport:
-      return "Report";
-    case TextId::kProject:
-      return "Project";
-    case TextId::kPrint:
-      return "Print";
-    case TextId::kSavePdf:
-      return "Save as PDF";
-    case TextId::kFormulas:
-      return "Formulas";
-    case TextId::kDeleteMarkedLines:
-      return "Delete marked lines";
-    default:
-      return "";
-  }
+struct EnglishText {
+  TextId text;
+  const char* english;
+};
+
+constexpr EnglishText kEnglishTexts[] = {
+    {TextId::kChooseValue, "Choose a value"},
+    {TextId::kDewPoint, "Dew point"},
+    {TextId::kNextSize, "Next size"},
+    {TextId::kChart, "Chart"},
+    {TextId::kAboveDewPoint, "Above the dew point"},
+    {TextId::kNoSaving, "No saving"},
+    {TextId::kCompare, "Compare"},
+    {TextId::kEconomic, "economic"},
+    {TextId::kPresentThickness, "current"},
+    {TextId::kInsulationCost, "Insulation cost"},
+    {TextId::kSavedPerYear, "Saved per year"},
+    {TextId::kPaybackYears, "Payback (years)"},
+    {TextId::kYearlyCost, "Yearly cost"},
+    {TextId::kEnergyPrice, "Energy price"},
+    {TextId::kYearsOfUse, "Years of use"},
+    {TextId::kUseThickness, "Use this thickness"},
+    {TextId::kCopy, "Copy"},
+    {TextId::kSchedule, "Schedule"},
+    {TextId::kAddPresent, "Add the present calculation"},
+    {TextId::kDuplicate, "Duplicate"},
+    {TextId::kDelete, "Delete"},
+    {TextId::kMove, "Move"},
+    {TextId::kName, "Name"},
+    {TextId::kUndo, "Undo"},
+    {TextId::kRedo, "Redo"},
+    {TextId::kNew, "New"},
+    {TextId::kOpen, "Open"},
+    {TextId::kSave, "Save"},
+    {TextId::kDiscard, "Don't save"},
+    {TextId::kKeepChanges, "Keep the changes?"},
+    {TextId::kRecovered, "Recovered changes, not saved yet"},
+    {TextId::kUnusableFile, "The file can't be used."},
+    {TextId::kRemark, "Remark"},
+    {TextId::kReport, "Report"},
+    {TextId::kProject, "Project"},
+    {TextId::kPrint, "Print"},
+    {TextId::kSavePdf, "Save as PDF"},
+    {TextId::kFormulas, "Formulas"},
+    {TextId::kDeleteMarkedLines, "Delete marked lines"},
+};
+
+QString In_English(TextId text) {
+  const auto* const known = std::ranges::find(kEnglishTexts, text, &EnglishText::text);
+  return known == std::end(kEnglishTexts) ? QString() : QString(known->english);
 }
 
 }  // namespace
 
 QString Own_Text(const Desktop& desktop, TextId text) {
   const QString translated = desktop.Text(text);
-  return translated.isEmpty() ? QString(In_English(text)) : translated;
+  return translated.isEmpty() ? In_English(text) : translated;
 }
 
 }  // namespace norvane
