@@ -6,14 +6,6 @@
 #include "screen/warmt.h"
 
 namespace norvane {
-namespace {
-
-TextField& Field_Of(Warmt& warmt, const InputRow& row) {
-  if (row.index == InputRow::kLength) return warmt.txtmtrs;
-  return (row.heat_loss ? warmt.txtT : warmt.txtC)(row.index);
-}
-
-}  // namespace
 
 void Enter(FormView& view, Warmt& warmt, const InputRow& row, const std::string& text) {
   TextField& field = Field_Of(warmt, row);

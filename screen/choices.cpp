@@ -105,7 +105,28 @@ std::size_t Nearest(double number, const std::vector<Choice>& entries) {
   return static_cast<std::size_t>(nearest - entries.begin());
 }
 
+/// The first entry that begins with a text; the end if none does.
+std::size_t First_With(std::string_view text, const std::vector<Choice>& entries) {
+  const auto begins = std::ranges::find_if(
+      entries, [&](const Choice& entry) { return entry.text.starts_with(text); });
+  return static_cast<std::size_t>(begins - entries.begin());
+}
+
+/// Of a number below all entries, which may be the first digits of one of them, the first that
+/// begins so; else the nearest one.
+std::size_t Entry_For(std::string_view text, const Choices& choices) {
+  const double number = Val(text);
+  const std::size_t first = First_With(text, choices.entries);
+  if (number < choices.limits.least && first < choices.entries.size()) return first;
+  return Nearest(number, choices.entries);
+}
+
 }  // namespace
+
+TextField& Field_Of(Warmt& warmt, const InputRow& row) {
+  if (row.index == InputRow::kLength) return warmt.txtmtrs;
+  return (row.heat_loss ? warmt.txtT : warmt.txtC)(row.index);
+}
 
 Choices Choices_Of(const Warmt& warmt, const InputRow& row, std::int16_t kind) {
   if (Is_Table_Row(row)) return Of_Table(Table_Of(warmt, row), First_Of(row));
@@ -128,8 +149,9 @@ std::optional<std::string> Text_To_Enter(std::string_view typed, const Choices& 
   const std::string text = As_Read(typed, locale);
   if (!Is_Number(text)) return std::nullopt;
   const double number = Val(text);
+  if (choices.entries_only) return choices.entries[Entry_For(text, choices)].text;
   const bool allowed = choices.limits.least <= number && number <= choices.limits.most;
-  return allowed && !choices.entries_only ? text : Text_To_Enter(number, choices);
+  return allowed ? text : Text_To_Enter(number, choices);
 }
 
 std::string Text_To_Enter(double number, const Choices& choices) {
@@ -140,13 +162,9 @@ std::string Text_To_Enter(double number, const Choices& choices) {
 
 std::size_t Place_Of(std::string_view typed, const Choices& choices, const Locale& locale) {
   const std::string text = As_Read(typed, locale);
-  if (choices.entries_only) return Nearest(Val(text), choices.entries);
-  const auto begins = std::ranges::find_if(
-      choices.entries, [&](const Choice& entry) { return entry.text.starts_with(text); });
-  if (begins != choices.entries.end()) {
-    return static_cast<std::size_t>(begins - choices.entries.begin());
-  }
-  return Nearest(Val(text), choices.entries);
+  if (choices.entries_only) return Entry_For(text, choices);
+  const std::size_t first = First_With(text, choices.entries);
+  return first < choices.entries.size() ? first : Nearest(Val(text), choices.entries);
 }
 
 int Clicks_To(const Warmt& warmt, const InputRow& row, const std::string& entry) {

@@ -11,15 +11,26 @@
 
 namespace norvane {
 
+class TextField;
 class Warmt;
 
 /// An input row of the main screen, in one of its two modes.
 struct InputRow {
   static constexpr int kLength = 5;
 
-  int index;  ///< as in the arrays of `Warmt`, `kLength` for the length
-  bool heat_loss;
+  int index;       ///< as in the arrays of `Warmt`, `kLength` for the length
+  bool heat_loss;  ///< of the two modes; true of the length, which is in both
+
+  bool operator==(const InputRow&) const = default;
 };
+
+/// All of them but the thickness of condensation, which is a result.
+inline constexpr InputRow kInputRows[] = {
+    {0, true},  {1, true},  {2, true},  {3, true}, {InputRow::kLength, true},
+    {0, false}, {1, false}, {3, false}, {4, false}};
+
+/// The field of a row.
+TextField& Field_Of(Warmt& warmt, const InputRow& row);
 
 /// A number that an input field can be given, in the field's unit.
 struct Choice {
@@ -44,8 +55,8 @@ struct Choices {
 Choices Choices_Of(const Warmt& warmt, const InputRow& row, std::int16_t kind);
 
 /// What a number as a person writes it is for the field: with a point for the locale's comma, and
-/// cut to the limits, or the nearest entry where there is nothing else. Nothing for what isn't a
-/// number.
+/// cut to the limits; where there are only entries, the nearest one, or the first that begins with
+/// a number below them all. Nothing for what isn't a number.
 /// @param typed UTF-8
 /// @param choices those of the field
 /// @param locale the user's number signs

@@ -156,6 +156,13 @@ TEST_F(WhatFieldsCanBeGiven, CutsANumberToTheLimits) {
   EXPECT_EQ(Entered("10001", kLength), "10000");
 }
 
+TEST_F(WhatFieldsCanBeGiven, TakesTheFirstDigitsOfAnEntryWhereNoEntryIsAsLow) {
+  EXPECT_EQ(Entered("8", kHumidity), "80");
+  EXPECT_EQ(Place("8", kHumidity), "80");
+  EXPECT_EQ(Entered("2", kHumidity), "30") << "none begins so";
+  EXPECT_EQ(Entered("5", kTableTemperature), "4") << "5 lies among the entries, and is near";
+}
+
 TEST_F(WhatFieldsCanBeGiven, TakesTheNearestEntryWhereThereIsNothingElse) {
   EXPECT_EQ(Entered("28", kTableTemperature), "28");
   EXPECT_EQ(Entered("33", kTableTemperature), "35");

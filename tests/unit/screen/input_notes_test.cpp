@@ -1,0 +1,51 @@
+#include "screen/input_notes.h"
+
+#include <gtest/gtest.h>
+
+#include "../support/test_program.h"
+
+namespace norvane {
+namespace {
+
+constexpr Limits kMedium{-50, 115};
+constexpr Limits kDiameter{6, 915};
+
+TEST(WhatCameOfAText, IsTakenAsItIsOrWithoutItsLeadingZeros) {
+  EXPECT_EQ(What_Came_Of("80", "80", kMedium), GivenText::kTaken);
+  EXPECT_EQ(What_Came_Of("05", "5", kMedium), GivenText::kTaken);
+  EXPECT_EQ(What_Came_Of("", "0", kMedium), GivenText::kTaken);
+  EXPECT_EQ(What_Came_Of("00", "0", kMedium), GivenText::kTaken);
+  EXPECT_EQ(What_Came_Of("-12.5", "-12.5", kMedium), GivenText::kTaken);
+}
+
+TEST(WhatCameOfAText, IsCutToALimit) {
+  EXPECT_EQ(What_Came_Of("125", "115", kMedium), GivenText::kCut);
+  EXPECT_EQ(What_Came_Of("-51", "-50", kMedium), GivenText::kCut);
+  EXPECT_EQ(What_Came_Of("916", "915", kDiameter), GivenText::kCut);
+  EXPECT_EQ(What_Came_Of("115", "115", kMedium), GivenText::kTaken);
+}
+
+TEST(WhatCameOfAText, IsLostInPartOrAsAWhole) {
+  EXPECT_EQ(What_Came_Of("-", "0", kMedium), GivenText::kLost);
+  EXPECT_EQ(What_Came_Of("1.", "1", kMedium), GivenText::kLost);
+  EXPECT_EQ(What_Came_Of("12,5", "12", kMedium), GivenText::kLost);
+  EXPECT_EQ(What_Came_Of("x", "0", kMedium), GivenText::kLost);
+  EXPECT_EQ(What_Came_Of("2", "10", kDiameter), GivenText::kLost) << "10 is no limit";
+}
+
+TEST(DegreesFahrenheit, AreStaleFromAChangeOfTheModeToTheNextChangeOfTheField) {
+  TestProgram program;
+  program.Start();
+  Warmt& warmt = program.Main_Screen();
+  EXPECT_FALSE(Is_Fahrenheit_Stale(program.State(), warmt, 0));
+  program.Click(warmt.cmdToolBarC);
+  EXPECT_TRUE(Is_Fahrenheit_Stale(program.State(), warmt, 0)) << "176 of 80, beside 10";
+  EXPECT_TRUE(Is_Fahrenheit_Stale(program.State(), warmt, 1)) << "59 of 15, beside 24";
+  program.Set(warmt.txtC(0), "12");
+  program.Up(warmt.SpinButton1(1));
+  EXPECT_FALSE(Is_Fahrenheit_Stale(program.State(), warmt, 0));
+  EXPECT_FALSE(Is_Fahrenheit_Stale(program.State(), warmt, 1));
+}
+
+}  // namespace
+}  // namespace norvane
