@@ -22,7 +22,7 @@ class HeadlessPlatform : public Platform, public Display {
   char Decimal_Separator() const override { return decimal_separator_; }
   std::optional<std::vector<std::string>> Font_Names() const override { return fonts; }
 
-  DisplayArea Available_Area() const override { return {0, 0, 15360, 11520}; }
+  DisplayArea Available_Area() const override { return screen; }
   void Form_Loaded(Form&) override {}
   void Form_Unloaded(Form&) override {}
   void Run_Modal(Form& form) override { play_modal(form); }
@@ -37,6 +37,7 @@ class HeadlessPlatform : public Platform, public Display {
   /// The answers to the next message boxes.
   std::deque<MessageAnswer> answers;
   std::optional<std::vector<std::string>> fonts;
+  DisplayArea screen{0, 0, 15360, 11520};
 
  private:
   MessageAnswer Take_Answer(MessageButtons buttons, bool& answered);

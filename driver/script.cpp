@@ -97,6 +97,9 @@ bool Script::Set_Up(const ScriptLine& line) {
     case Verb::kFonts:
       platform_.fonts = line.fonts;
       return true;
+    case Verb::kScreen:
+      platform_.screen = line.screen;
+      return true;
     case Verb::kSpreadsheet:
       platform_.Recorder().Set_Present(line.spreadsheet);
       return true;

@@ -20,6 +20,7 @@ enum class With {
   kCount,  ///< 1 if left out
   kNumber,
   kTwoNumbers,
+  kFourNumbers,
   kAnswer,
   kFonts,
   kSpreadsheet,
@@ -45,6 +46,7 @@ constexpr VerbEntry kVerbs[] = {
     {"tick", Verb::kTick, {}, On::kNothing, With::kCount},
     {"answer", Verb::kAnswer, {}, On::kNothing, With::kAnswer},
     {"fonts", Verb::kFonts, {}, On::kNothing, With::kFonts},
+    {"screen", Verb::kScreen, {}, On::kNothing, With::kFourNumbers},
     {"spreadsheet", Verb::kSpreadsheet, {}, On::kNothing, With::kSpreadsheet},
     {"get", Verb::kGet, {}, On::kNothing, With::kName},
     {"dump", Verb::kDump, {}, On::kNothing, With::kForm},
@@ -125,11 +127,23 @@ std::string Parse_Place(ScriptLine& line, On on, const std::string& rest) {
   return behind;
 }
 
+std::vector<int> Parse_Numbers(std::size_t count, const std::string& rest) {
+  std::vector<int> numbers;
+  for (const std::string& word : Words(rest)) numbers.push_back(Parse_Number(word));
+  if (numbers.size() != count) throw ScriptError();
+  return numbers;
+}
+
 void Parse_Two_Numbers(ScriptLine& line, const std::string& rest) {
-  const auto words = Words(rest);
-  if (words.size() != 2) throw ScriptError();
-  line.first = Parse_Number(words[0]);
-  line.last = Parse_Number(words[1]);
+  const auto numbers = Parse_Numbers(2, rest);
+  line.first = numbers[0];
+  line.last = numbers[1];
+}
+
+void Parse_Screen(ScriptLine& line, const std::string& rest) {
+  const auto numbers = Parse_Numbers(4, rest);
+  line.screen = {static_cast<double>(numbers[0]), static_cast<double>(numbers[1]),
+                 static_cast<double>(numbers[2]), static_cast<double>(numbers[3])};
 }
 
 void Parse_Arguments(ScriptLine& line, With with, const std::string& rest) {
@@ -147,6 +161,9 @@ void Parse_Arguments(ScriptLine& line, With with, const std::string& rest) {
       break;
     case With::kTwoNumbers:
       Parse_Two_Numbers(line, rest);
+      break;
+    case With::kFourNumbers:
+      Parse_Screen(line, rest);
       break;
     case With::kAnswer:
       line.answer = Parse_Answer(rest);

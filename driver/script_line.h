@@ -19,6 +19,7 @@ enum class Verb {
   kTick,
   kAnswer,
   kFonts,
+  kScreen,
   kSpreadsheet,
   kGet,
   kDump,
@@ -42,6 +43,7 @@ struct ScriptLine {
   int last = 0;   ///< a row, a height or upper edge in twips
   MessageAnswer answer = MessageAnswer::kOk;
   bool spreadsheet = false;  ///< whether there is a spreadsheet program
+  DisplayArea screen;        ///< what is free of it
   std::optional<ProcedureCall> call;
 };
 

@@ -4,6 +4,7 @@
 
 #include <locale>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "../support/test_program.h"
@@ -118,6 +119,9 @@ TEST(AScriptLine, SetsUpTheWorldAroundTheProgram) {
   EXPECT_EQ(Parsed("fonts Arial;Courier New").fonts,
             (std::vector<std::string>{"Arial", "Courier New"}));
   EXPECT_EQ(Parsed("fonts").fonts, std::vector<std::string>{""});
+  const DisplayArea screen = Parsed("screen -90 60 15360 11460").screen;
+  EXPECT_EQ(std::tuple(screen.left, screen.top, screen.width, screen.height),
+            std::tuple(-90, 60, 15360, 11460));
 }
 
 TEST(AScriptLine, KeepsANameThatItGetsAsItIsWritten) {
@@ -184,6 +188,8 @@ TEST(AScriptLine, IsNotUnderstoodWhereAnythingElseStands) {
                            "dump Lang ",
                            "call",
                            "call Nothing",
+                           "screen 0 0 15360",
+                           "screen 0 0 15360 11520 1",
                            "call Inch 1",
                            "call Inch 1 2 3",
                            "call Inch 1  2",
