@@ -202,7 +202,15 @@ void Desktop::Start() {
 void Desktop::Answer(const UserEvent& event) {
   if (program_.Ended()) return;  // while its last message is still to be read
   if (may_leave_ && Leads_Out(event) && !may_leave_()) return;
+  const bool is_place = event.action == UserAction::kMove || event.action == UserAction::kResize;
+  if (!is_place) Tell_Where_Main_Window_Is();
   Call([&] { program_.Dispatch(event); });
+}
+
+void Desktop::Tell_Where_Main_Window_Is() {
+  // Nobody tells when the window manager changes a frame, and the place goes by that. Maximised, a
+  // window may move before its frame gets thinner.
+  if (FormView* main_window = Main_Window()) main_window->Tell_Place_Anew();
 }
 
 void Desktop::Tick(TickTimer& timer) {

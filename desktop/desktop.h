@@ -94,6 +94,7 @@ class Desktop : public Platform, public Display {
   void Wait_For_Exposure();
   QWidget* Front_Window() const;
   void Close_Front_Window();
+  void Tell_Where_Main_Window_Is();
   void Close_One_More_Window();
   void Decode_Anew_At_Need();
 

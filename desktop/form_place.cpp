@@ -59,13 +59,12 @@ void FormView::Place_Window() {
   const QSize least = page->minimumSizeHint();
   const QSize size = QSize(To_Pixels(place.width), To_Pixels(place.height)).expandedTo(least);
   const int scroll_bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-  const Placement placed =
+  placed_ =
       Place_Inside(desktop_.Work_Area(), {Wished_Place(size), size, least, Frame()}, scroll_bar);
-  if (placed.scrolls && scrolled_page_ == nullptr) Let_Scroll();
-  made_smaller_ = placed.size != size;
-  placed_size_ = placed.size;
-  resize(placed.size);
-  move(placed.place);
+  if (placed_.scrolls && scrolled_page_ == nullptr) Let_Scroll();
+  made_smaller_ = placed_.size != size;
+  resize(placed_.size);
+  move(placed_.place);
 }
 
 void FormView::Let_Scroll() {
@@ -106,6 +105,11 @@ void FormView::Tell_Place_Later() {
   QTimer::singleShot(0, this, &FormView::Tell_Place);
 }
 
+void FormView::Tell_Place_Anew() {
+  place_untold_ = true;
+  Tell_Place();
+}
+
 bool FormView::Is_Newly_Framed() {
   // How thick its frame is shows when the window manager has put it around the window.
   if (framed_ || windowHandle()->frameMargins().isNull()) return false;
@@ -113,11 +117,17 @@ bool FormView::Is_Newly_Framed() {
   return true;
 }
 
+bool FormView::Lies_As_Placed() const {
+  // A place or a size that the user has given by then is his.
+  constexpr int kRounded = 2;  // pixels, where the display's own are no whole number of these
+  const QPoint off = windowHandle()->framePosition() - placed_.place;
+  return size() == placed_.size && off.manhattanLength() <= kRounded;
+}
+
 void FormView::Tell_Place() {
   if (form_ == nullptr || !form_->Shown() || !isVisible() || isMinimized() || !place_untold_)
     return;
-  // A size that the user has given by then is his.
-  if (Is_Newly_Framed() && !isMaximized() && size() == placed_size_ &&
+  if (Is_Newly_Framed() && !isMaximized() && Lies_As_Placed() &&
       (made_smaller_ || !desktop_.Work_Area().contains(windowHandle()->frameGeometry()))) {
     Place_Window();
   }

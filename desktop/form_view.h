@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "desktop/binder.h"
+#include "desktop/placement.h"
 #include "screen/model/form.h"
 
 namespace norvane {
@@ -31,6 +32,8 @@ class FormView : public QWidget, public FormObserver {
   /// The window alone takes the user's events until its form is hidden; `loop` ends then.
   void Show_Modal(QEventLoop& loop);
   void Leave_Modal() { modal_loop_ = nullptr; }
+  /// Tells the program where the window lies, should that have changed.
+  void Tell_Place_Anew();
   /// The form is about to go; nothing of it is touched any more.
   void Detach();
 
@@ -88,6 +91,7 @@ class FormView : public QWidget, public FormObserver {
   void Tell_Place_Later();
   void Tell_Place();
   bool Is_Newly_Framed();
+  bool Lies_As_Placed() const;
 
   Desktop& desktop_;
   Form* form_;
@@ -102,7 +106,7 @@ class FormView : public QWidget, public FormObserver {
   bool place_untold_ = false;   ///< changed by the user or the window manager
   bool telling_place_ = false;
   bool made_smaller_ = false;  ///< than it should be, for want of room
-  QSize placed_size_;          ///< that the window got when it was last placed
+  Placement placed_;           ///< the last one by the program
   bool framed_ = false;        ///< by the window manager, since the window was shown
   QWidget* scrolled_page_ = nullptr;
   bool brought_to_front_ = false;
