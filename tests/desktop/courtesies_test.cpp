@@ -53,7 +53,7 @@ TEST_F(Courtesies, The_Same_Letter_Reaches_The_Field_Of_The_Other_Mode) {
 
 TEST_F(Courtesies, Alt_And_A_Letter_Press_A_Button) {
   Press(Qt::Key_D, Qt::AltModifier);  // "Add to Total"
-  EXPECT_TRUE(QTest::qWaitFor([&] { return State().Calc_List.size() == 3; }, 1000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return State().Calc_List.size() == 3; }, 5000));
 }
 
 TEST_F(Courtesies, Ctrl_C_On_The_Results_Copies_Them_As_Aligned_Text) {

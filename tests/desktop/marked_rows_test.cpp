@@ -37,7 +37,7 @@ class MarkedRows : public TotalsTest {
   QStringList Asked_By(Qt::MouseButton button, const QPoint& place) {
     const std::size_t before = watchdog.Messages().size();
     QTest::mouseClick(View(List()).windowHandle(), button, Qt::NoModifier, place);
-    Settle();
+    Wait_For_Answer();
     QStringList asked;
     for (std::size_t i = before; i < watchdog.Messages().size(); ++i) {
       asked << watchdog.Messages()[i].text;
@@ -59,10 +59,10 @@ TEST_F(MarkedRows, What_Is_Asked_About_Is_Marked_While_The_Question_Stands) {
     watchdog.Expect([&](QWidget& box) {
       marked = Marked();
       Press(Qt::Key_Escape);
-      EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }, 1000));
+      EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }, 5000));
     });
     Drag(from, to);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return watchdog.Content(); }, 2000));
+    Wait_For_Answer();
     EXPECT_EQ(marked, (std::set<int>{1, 2, 3}));
     // No drops the selection down to the row where it began.
     EXPECT_EQ(Marked(), std::set<int>{from});
@@ -128,7 +128,7 @@ TEST_F(MarkedRows, The_Button_Above_Deletes_Them) {
   Mark_Row(1);
   watchdog.Expect_Message(QMessageBox::Yes);
   Click(button);
-  Wait_For_Message(1);
+  Wait_For_Answer();
   EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "13"}));
 }
 

@@ -113,7 +113,7 @@ class SessionByMouse : public Sessions {
         &popup, products.view()->visualRect(products.model()->index(1, 0)).center());
     norvane::Hover(popup, second);
     QTest::mouseClick(popup.windowHandle(), Qt::LeftButton, Qt::NoModifier, second);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Screen().Combo1.Text() == "Norvane Tube K2"; }, 1000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Screen().Combo1.Text() == "Norvane Tube K2"; }, 5000));
     Click(Screen().cmdAdd);
   }
   void Look_At_Condensation() {
@@ -143,8 +143,8 @@ class SessionByMouse : public Sessions {
     watchdog.Expect_Message(QMessageBox::No);
     Click(View(Lines()),
           table.viewport()->mapTo(&View(Lines()), table.visualRect(product).center()));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return watchdog.Messages().size() == 1; }, 2000));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !State().forms.total.Loaded(); }, 2000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return watchdog.Messages().size() == 1; }, 5000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !State().forms.total.Loaded(); }, 5000));
     Wait_Until_Active(Screen());
   }
   void Look_At_Addresses_And_Change_The_Language() {
@@ -224,10 +224,10 @@ class SessionByKeyboard : public Sessions {
     Press(Qt::Key_Space);
     watchdog.Expect([](QWidget& box) {
       Press(Qt::Key_Y, Qt::AltModifier);
-      EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }, 1000));
+      EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }, 5000));
     });
     Press(Qt::Key_Delete);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !State().forms.total.Loaded(); }, 2000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !State().forms.total.Loaded(); }, 5000));
     EXPECT_EQ(State().Calc_List.size(), 2U);
     Wait_Until_Active(Screen());
   }

@@ -59,7 +59,7 @@ TEST_F(SettingsDialog, A_Size_That_The_Main_Screen_Gets_Meanwhile_Is_Told_Afterw
     Settle();
     Press(Qt::Key_Escape);
   });
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Screen().Place().width == size.width() * 15; }, 1000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Screen().Place().width == size.width() * 15; }, 5000));
 }
 
 TEST_F(SettingsDialog, A_Number_Can_Be_Typed_As_Soon_As_It_Is_Open) {
@@ -75,7 +75,7 @@ TEST_F(SettingsDialog, Enter_On_Cancel_Cancels) {
     Type("20");
     Widget(Dialog().Command2).setFocus();
     Press(Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !View(Dialog()).isVisible(); }, 1000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !View(Dialog()).isVisible(); }, 5000));
   });
   EXPECT_EQ(Shown(Screen().Label4(1)), Number("12.5"));
 }

@@ -84,7 +84,7 @@ TEST_F(Start, A_Runtime_Error_During_The_Start_Stays_Until_It_Is_Answered) {
     QTest::qWait(2500);  // ticks of the splash screen's timer fall into it
     stayed = window.isVisible();
     Press(Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 1000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 5000));
   });
   QTimer::singleShot(0, qApp, [this] { desktop.Start(); });
   EXPECT_EQ(QApplication::exec(), 3);
@@ -147,7 +147,7 @@ TEST_F(End, A_Runtime_Error_Offers_To_Copy_The_Lines_That_Were_Saved) {
     Settle();
     EXPECT_TRUE(window.isVisible());
     Click(*dynamic_cast<QMessageBox&>(window).button(QMessageBox::Ok));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 1000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 5000));
   });
   const int status = Status_Of([this] {
     Click(Screen().cmdAdd);
@@ -167,7 +167,7 @@ TEST_F(End, A_Runtime_Error_Without_Saved_Lines_Has_Nothing_To_Copy) {
     const auto buttons = window.findChildren<QAbstractButton*>();
     EXPECT_EQ(buttons.size(), 1);
     Click(*buttons.front());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 1000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 5000));
   });
   EXPECT_EQ(Status_Of([this] { Paste(Screen().txtmtrs, "-40000"); }), 3);
 }
@@ -175,7 +175,7 @@ TEST_F(End, A_Runtime_Error_Without_Saved_Lines_Has_Nothing_To_Copy) {
 TEST_F(End, A_Runtime_Error_Is_Put_Away_By_Escape_With_Saved_Lines_Too) {
   watchdog.Expect([](QWidget& window) {
     Press(Qt::Key_Escape);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 1000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 5000));
   });
   const int status = Status_Of([this] {
     Click(Screen().cmdAdd);

@@ -40,7 +40,7 @@ class Failure : public WindowTest {
       Settle();
       said_ = dynamic_cast<QMessageBox&>(window).text();
       Click(*dynamic_cast<QMessageBox&>(window).button(QMessageBox::Ok));
-      EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 1000));
+      EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 5000));
     });
   }
   void Expect_Lines(qsizetype lines) {

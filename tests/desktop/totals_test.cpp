@@ -57,7 +57,7 @@ TEST_F(Totals, A_Drag_Over_Rows_Asks_And_Yes_Deletes_Them) {
   Open();
   watchdog.Expect_Message(QMessageBox::Yes);
   Drag(1, 3);
-  Wait_For_Message(1);
+  Wait_For_Answer();
   ASSERT_EQ(watchdog.Messages().size(), 1U);
   EXPECT_EQ(watchdog.Messages()[0],
             (SeenMessage{"Norvane", "Delete 3 Records", QMessageBox::Question}));
@@ -114,7 +114,7 @@ TEST_F(Totals, A_Drag_Upwards_Takes_The_Same_Rows) {
   Open();
   watchdog.Expect_Message(QMessageBox::Yes);
   Drag(2, 1);
-  Wait_For_Message(1);
+  Wait_For_Answer();
   EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "15"}));
 }
 
@@ -123,7 +123,7 @@ TEST_F(Totals, No_Keeps_The_Lines) {
   Open();
   watchdog.Expect_Message(QMessageBox::No);
   norvane::Click(View(List()), Place_Of(0));
-  Wait_For_Message(1);
+  Wait_For_Answer();
   EXPECT_EQ(watchdog.Messages()[0].text, "Delete 1 Records");
   EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "9"}));
   EXPECT_TRUE(View(List()).isVisible());
@@ -135,10 +135,10 @@ TEST_F(Totals, Escape_Is_No) {
   watchdog.Expect([](QWidget& box) {
     Press(Qt::Key_Escape);
     // The button goes down for a moment first.
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }, 1000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }, 5000));
   });
   norvane::Click(View(List()), Place_Of(0));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return watchdog.Content(); }, 2000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return watchdog.Content(); }, 5000));
   EXPECT_EQ(Shown_Thicknesses(), (QStringList{"6", "9"}));
 }
 
@@ -147,7 +147,7 @@ TEST_F(Totals, No_With_One_Line_Closes_The_Screen_And_Keeps_The_Line) {
   Open();
   watchdog.Expect_Message(QMessageBox::No);
   norvane::Click(View(List()), Place_Of(0));
-  Wait_For_Message(1);
+  Wait_For_Answer();
   EXPECT_FALSE(State().forms.total.Loaded());
   Wait_Until_Active(Screen());
   EXPECT_TRUE(Widget(Screen().picTotal).isVisible());
@@ -158,7 +158,7 @@ TEST_F(Totals, The_Last_Line_Deleted_Closes_The_Screen_And_Hides_The_Ways_To_It)
   Open();
   watchdog.Expect_Message(QMessageBox::Yes);
   norvane::Click(View(List()), Place_Of(0));
-  Wait_For_Message(1);
+  Wait_For_Answer();
   EXPECT_FALSE(State().forms.total.Loaded());
   Wait_Until_Active(Screen());
   EXPECT_FALSE(Widget(Screen().picTotal).isVisible());
@@ -174,7 +174,7 @@ TEST_F(Totals, The_Delete_Key_Asks_For_The_Marked_Rows) {
   Press(Qt::Key_Down, Qt::ShiftModifier);
   watchdog.Expect_Message(QMessageBox::Yes);
   Press(Qt::Key_Delete);
-  Wait_For_Message(1);
+  Wait_For_Answer();
   EXPECT_EQ(watchdog.Messages()[0].text, "Delete 2 Records");
   EXPECT_EQ(Shown_Thicknesses(), QStringList{"6"});
 }
@@ -239,7 +239,7 @@ TEST_F(Totals, A_Full_List_Opens_Scrolls_And_Deletes_At_Once) {
   EXPECT_LT(time.Restart(), kLongest);
   watchdog.Expect_Message(QMessageBox::Yes);
   Press(Qt::Key_Delete);
-  Wait_For_Message(1);
+  Wait_For_Answer();
   EXPECT_LT(time.Restart(), kLongest);
   EXPECT_EQ(Table().model()->rowCount(), 32765);
 }
@@ -257,7 +257,7 @@ TEST_F(Totals, The_Grid_Follows_The_Size_Of_The_Window) {
   Open();
   const QSize before = Table().size();
   View(List()).resize(View(List()).size() + QSize(100, 60));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Table().width() == before.width() + 100; }, 2000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Table().width() == before.width() + 100; }, 5000));
   EXPECT_EQ(Table().height(), before.height() + 60);
   ASSERT_TRUE(QTest::qWaitFor([&] { return List().Place().width == View(List()).width() * 15; }));
   EXPECT_TRUE(Widget(List().Label1).isVisible());

@@ -40,10 +40,10 @@ class TotalsTest : public WindowTest {
     QTest::mouseMove(window, Place_Of(to));
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, Place_Of(to));
   }
-  void Wait_For_Message(std::size_t number) {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return watchdog.Messages().size() >= number; }, 2000));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return QApplication::activeModalWidget() == nullptr; }, 2000));
+  /// Until each question that is expected has come and gone.
+  void Wait_For_Answer() {
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return watchdog.Content() && QApplication::activeModalWidget() == nullptr; }, 5000));
     Settle();
   }
   /// The thicknesses of the lines that the table shows.
