@@ -3,7 +3,6 @@
 import accessible
 from windows import FORMS, OWN, TOOLS, fields_of
 
-TWIPS = 15  # a pixel
 GREEK = {"l": "\u03bb", "a": "\u03b1"}
 FIRST_INDEX_OF_UNITS = 5  # Label4: the percentage stands between the values
 
@@ -51,7 +50,7 @@ def questions(form):
                   "LblTooltip.Caption", "Picture2.Picture"]
     if form == "Settings":
         names += [f"UpDown1({i}).Visible" for i in range(2)]
-    names += ["Caption", "Width", "Height", "Active"]
+    names += ["Caption", "Left", "Top", "Width", "Height", "Active"]
     return [prefix + name for name in names]
 
 

@@ -3,7 +3,7 @@
 import select
 import time
 
-from Xlib import X, XK, Xatom, display, error
+from Xlib import X, XK, Xatom, Xutil, display, error
 from Xlib.ext import xtest
 from Xlib.protocol import event, request
 
@@ -30,13 +30,53 @@ class Screen:
         self.own.change_attributes(event_mask=X.PropertyChangeMask)
         self.number = 0
         self.asked = None  # the window that a program is asked by
+        self.panels = []
+        self.area = self.work_area()
 
     def atom(self, name):
         return self.display.get_atom(name)  # asked for once
 
     def reaches(self, x, y):
-        screen = self.display.screen()
-        return 0 < x < screen.width_in_pixels and 0 <= y < screen.height_in_pixels
+        left, top, width, height = self.area
+        return left < x < left + width and top <= y < top + height
+
+    # Panels
+
+    def work_area(self):
+        """Left, top, width and height of what panels leave free."""
+        listed = self.root.get_full_property(self.atom("_NET_WORKAREA"), Xatom.CARDINAL)
+        return tuple(listed.value[:4])
+
+    def put_up_panels(self, left, top, right, bottom):
+        """Panels at the sides of the screen, in the place of those before, as thick as that."""
+        for panel in self.panels:
+            panel.destroy()
+        whole = self.display.screen()
+        width, height = whole.width_in_pixels, whole.height_in_pixels
+        bars = [(0, 0, left, height), (0, 0, width, top), (width - right, 0, right, height),
+                (0, height - bottom, width, bottom)]
+        # In the order of the window manager.
+        sides = [left, right, top, bottom]
+        self.panels = [self.panel(bar, [side if number == place else 0
+                                        for place, side in enumerate(sides)])
+                       for bar, number in zip(bars, (0, 2, 1, 3)) if min(bar[2:]) > 0]
+        wanted = left, top, width - left - right, height - top - bottom
+        end = time.monotonic() + PATIENCE
+        while self.work_area() != wanted:
+            if time.monotonic() > end:
+                raise NoAnswer(f"the window manager leaves {self.work_area()}, not {wanted}")
+            self.hear_manager()
+        self.area = wanted
+
+    def panel(self, bar, struts):
+        window = self.root.create_window(*bar, 0, X.CopyFromParent)
+        for name, kind, value in [
+                ("_NET_WM_WINDOW_TYPE", Xatom.ATOM, [self.atom("_NET_WM_WINDOW_TYPE_DOCK")]),
+                ("_NET_WM_STRUT", Xatom.CARDINAL, struts)]:
+            window.change_property(self.atom(name), kind, 32, value)
+        window.set_wm_normal_hints(flags=Xutil.USPosition)  # else the window manager finds one
+        window.map()
+        return window
 
     # Hands
 
@@ -74,7 +114,8 @@ class Screen:
         pager = 2
         message = event.ClientMessage(
             window=window, client_type=self.atom(kind),
-            data=(32, (list(data) if data else [0, pager]) + [0] * (5 - max(len(data), 2))))
+            data=(32, [number & 0xFFFFFFFF for number in data or (0, pager)]
+                  + [0] * (5 - max(len(data), 2))))
         self.root.send_event(
             message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
 
@@ -106,6 +147,33 @@ class Screen:
     def title_of(self, window):
         title = window.get_full_property(self.atom("_NET_WM_NAME"), self.atom("UTF8_STRING"))
         return title.value.decode() if title else ""
+
+    def with_frame(self, window):
+        """The window that the window manager has put around another one."""
+        while True:
+            parent = window.query_tree().parent
+            if not parent or parent.id == self.root.id:
+                return window
+            window = parent
+
+    def frame_of(self, window):
+        """Left, top, width and height of a window with its frame."""
+        place = self.with_frame(window).get_geometry()
+        return place.x, place.y, place.width, place.height
+
+    def size_of(self, window):
+        """Width and height without its frame."""
+        place = window.get_geometry()
+        return place.width, place.height
+
+    def is_topmost_at(self, window, x, y):
+        """Whether a click there is one on this window."""
+        topmost = self.root.translate_coords(self.root, x, y).child
+        return bool(topmost) and topmost.id == self.with_frame(window).id
+
+    def is_maximised(self, window):
+        states = window.get_full_property(self.atom("_NET_WM_STATE"), Xatom.ATOM)
+        return bool(states) and self.atom("_NET_WM_STATE_MAXIMIZED_VERT") in states.value
 
     def active_window(self):
         active = self.root.get_full_property(self.atom("_NET_ACTIVE_WINDOW"), Xatom.WINDOW)

@@ -6,10 +6,13 @@ import subprocess
 import tempfile
 import time
 
+from Xlib import error
+
 import accessible
-from comparison import TWIPS, Seen, Wanted, differences, marked_rows
+from comparison import Seen, Wanted, differences, marked_rows
 from grounds import different_grounds
 from model import Model
+from places import TWIPS, Places
 from screen import NoAnswer
 from windows import UnknownWindow
 
@@ -41,6 +44,7 @@ class Session:
         self.ended = False
         self.wanted = self.seen = None
         self.asked_about = None  # the rows that the next question is about
+        self.places = Places(self)
 
     def prepare(self, copy, settings):
         # Without the spreadsheet program both are in the same world.
@@ -55,6 +59,7 @@ class Session:
                 file.write(settings)
 
     def start(self):
+        self.play("screen " + " ".join(str(TWIPS * side) for side in self.screen.area))
         self.play("start")
         # The splash stands for three seconds.
         title = self.model.get(["Warmt.Caption"])["Warmt.Caption"]
@@ -163,6 +168,16 @@ class Session:
         self.screen.move_mouse(x - 1, y)
         self.screen.move_mouse(x, y)
 
+    def windows(self):
+        """The windows of the forms; not of those that share a title."""
+        by_title = {}
+        for window in self.screen.windows_of(self.process.pid):
+            by_title.setdefault(self.screen.title_of(window), []).append(window)
+        titles = [top.name for top in self.seen.tops.values()]
+        return {form: by_title[top.name][0] for form, top in self.seen.tops.items()
+                if form in self.wanted.forms and form != "About" and titles.count(top.name) == 1
+                and len(by_title.get(top.name, [])) == 1}
+
     def tell_sizes(self):
         """The sizes that the windows have got: those are the user's and his window manager's."""
         raw = self.wanted.raw
@@ -183,11 +198,13 @@ class Session:
             try:
                 self.rest()
                 self.seen = Seen(self.program)
-                if self.tell_sizes():
+                # First: the place that a window was given goes by the size that its form had then.
+                found = self.places.differences(self.windows())
+                if not found and self.tell_sizes():
                     continue
-                found = differences(self.wanted.told(), self.seen.told())
+                found += differences(self.wanted.told(), self.seen.told())
                 found += different_grounds(self.wanted, self.seen, self.screen)
-            except (NoAnswer, UnknownWindow) as problem:
+            except (NoAnswer, UnknownWindow, error.XError) as problem:
                 found = [f"{type(problem).__name__} {problem}"]
             if not found:
                 return

@@ -3,10 +3,10 @@
 import random
 
 import accessible
+from window_user import OutOfSight, WindowUser
 from windows import FORMS, TOOLS
 
 ARROW_WIDTH = 22
-FRAME = 40  # pixels, as much as a window manager adds
 WORDS = ["80", "13", "0", "1", "10", "21", "5.99", "6", "2.5", "100", "100.5", "-1", "-50", "115",
          "116", "32767", "1e5", "24", "0,038", "0.038", "0.04", "12,5", "12.5", "abc", "12abc",
          "-", ".", "914", "0.5", "1 2", "7654321", "-32769", "365", "366"]
@@ -19,15 +19,9 @@ CLICKED = {  # fields that do something when they are clicked, by form
 }
 
 
-class OutOfSight(Exception):
-    """It lies beside the screen or under another window, where no mouse comes."""
-
-
-class User:
+class User(WindowUser):
     def __init__(self, session, seed):
-        self.session, self.screen = session, session.screen
-        self.random = random.Random(seed)
-        self.queued = False  # an answer waits for the next question
+        super().__init__(session, random.Random(seed))
 
     # What he sees
 
@@ -37,25 +31,6 @@ class User:
     def shown(self, form, wanted):
         return [field for kind, field in FORMS[form]
                 if wanted(kind, field) and self.node(form, field).has(accessible.SHOWING)]
-
-    def front(self):
-        return self.session.wanted.front()
-
-    def require_in_sight(self, form, *points):
-        for x, y in points:
-            if not self.screen.reaches(x, y) or self.other_covers(form, x, y):
-                raise OutOfSight()
-
-    def other_covers(self, form, x, y):
-        """The other windows stay in front of the main one; among themselves the one that he uses is
-        in front."""
-        if form != "Warmt":
-            return False
-        tops = self.session.seen.tops
-        others = [tops[other] for other in tops if other not in (form, "About")]
-        return any(left - FRAME <= x < left + width + FRAME
-                   and top - FRAME <= y < top + height + FRAME
-                   for left, top, width, height in self.session.program.places(others))
 
     def tip_covers(self, x, y):
         tip = self.session.seen.fields.get("Warmt", {}).get("picToolTip")
@@ -74,27 +49,23 @@ class User:
             "Warmt": [self.type] * 6 + [self.step] * 6 + [self.press_tool] * 5
             + [self.step_by_key] * 2 + [self.choose, self.press_tip, self.hover, self.leave,
                                         self.menu, self.add, self.add, self.show_total,
+                                        self.show_total, self.drag_by_title, self.maximise,
                                         self.resize, self.move, self.bring_forward],
             "Settings": [self.type] * 4 + [self.step] * 2 + [self.pick_tab] * 3
-            + [self.press_button] * 2 + [self.close_window],
+            + [self.press_button] * 2 + [self.close_window, self.move],
             "Lang": [self.press_language] * 5 + [self.press_button, self.close_window,
-                                                 self.bring_forward, self.move],
-            "Address": [self.press_button, self.close_window, self.bring_forward],
-            "Total": [self.drag_rows] * 4 + [self.click_on_grid] * 2 + [self.close_window] + [self.bring_forward] * 2
-            + [self.resize, self.move],
+                                                 self.bring_forward, self.move,
+                                                 self.drag_by_ground],
+            "Address": [self.press_button, self.close_window, self.bring_forward, self.move,
+                        self.drag_by_ground],
+            "Total": [self.drag_rows] * 4 + [self.click_on_grid] * 2 + [self.bring_forward] * 2
+            + [self.close_window, self.resize, self.move, self.drag_by_title, self.maximise],
         }
+        self.form = self.choose_form()
         try:
-            self.random.choice(kinds[self.front()])()
+            self.random.choice(kinds[self.form])()
         except OutOfSight:
             pass
-
-    def do(self, lines, hands):
-        told = self.session.play(*lines)
-        if any("| yes/no ->" in line for line in told):
-            self.queued = False
-        hands()
-        self.screen.display.sync()
-        self.session.hear(told)
 
     def way_to(self, form, field):
         """What the model is told of a move of the mouse over a field, and the point; what lies
@@ -106,7 +77,7 @@ class User:
         x = left + self.random.randrange(nearest, max(nearest + 1, width - 2))
         # The tip lies over the lower edge of its button.
         y = top + self.random.randrange(1, max(2, height - (8 if field in TOOLS else 1)))
-        self.require_in_sight(form, (x, y))
+        self.require_in_sight((x, y))
         if field != "LblTooltip" and self.tip_covers(x, y):
             self.leave()
         return [f"hover {form}.{field}"] if field in TOOLS else [], (x, y)
@@ -127,7 +98,7 @@ class User:
         self.do([line] if line else [], hands)
 
     def type(self):
-        form = self.front()
+        form = self.form
         fields = self.shown(form, lambda kind, field: kind == "t")
         if not fields:
             return
@@ -156,7 +127,7 @@ class User:
         return self.session.model.get(["Focus"])["Focus"] in (field, f"{form}.{field}")
 
     def step(self):
-        form = self.front()
+        form = self.form
         arrows = self.shown(form, lambda kind, field: field.endswith((".up", ".down")))
         if not arrows:
             return
@@ -205,7 +176,7 @@ class User:
         top = self.session.seen.tops["Warmt"]
         left, up, width, height = self.session.program.place(top)
         x, y = left + 5, up + self.random.randrange(height // 2, height - 40)
-        self.require_in_sight("Warmt", (x, y))
+        self.require_in_sight((x, y))
         self.do(["hover Warmt"], lambda: self.session.move_to(x, y))
 
     def menu(self):
@@ -214,7 +185,8 @@ class User:
 
     def add(self):
         for field in self.shown("Warmt", lambda kind, field: field == "cmdAdd"):
-            self.click_on("Warmt", field, "click cmdAdd")
+            for _ in range(self.random.choice([1, 1, 2, 3, 6])):
+                self.click_on("Warmt", field, "click cmdAdd")
 
     def show_total(self):
         for field in self.shown("Warmt", lambda kind, field: field == "picTotal"):
@@ -225,7 +197,7 @@ class User:
         tabs = self.node("Settings", "SSTab1").children
         node = [child for child in tabs if child.role == accessible.PAGE_TAB][tab]
         x, y = self.session.point_in(node)
-        self.require_in_sight("Settings", (x, y))
+        self.require_in_sight((x, y))
 
         def click():
             self.session.move_to(x, y)
@@ -234,7 +206,7 @@ class User:
         self.do([f"tab Settings.SSTab1 {tab}"], click)
 
     def press_button(self):
-        form = self.front()
+        form = self.form
         field = self.random.choice(CLICKED[form])
         self.click_on(form, field, f"click {form}.{field}")
 
@@ -256,7 +228,7 @@ class User:
         left, top, width, height = self.session.program.place(table)
         if any(not (left < x < left + width and top < y < top + height - 20) for x, y in places):
             return
-        self.require_in_sight("Total", *places)
+        self.require_in_sight(*places)
 
         def drag():
             self.session.move_to(*places[0])
@@ -292,43 +264,6 @@ class User:
             if y >= top + height - 20:
                 return
             button = self.random.choice([2, 3])
-        self.require_in_sight("Total", (x, y))
+        self.require_in_sight((x, y))
         self.do([], lambda: self.session.move_to(x, y))
         self.do(["click Total.grdResult"], lambda: self.screen.click(button))
-
-    # The window manager
-
-    def window(self, form):
-        title = self.session.seen.tops[form].name
-        windows = [window for window in self.screen.windows_of(self.session.process.pid)
-                   if self.screen.title_of(window) == title]
-        return windows[0] if len(windows) == 1 else None
-
-    def close_window(self):
-        form = self.front()
-        window = self.window(form)
-        if window is not None:
-            self.do([f"close {form}"],
-                    lambda: self.screen.ask_manager(window, "_NET_CLOSE_WINDOW"))
-
-    def bring_forward(self):
-        form = self.random.choice(self.session.wanted.forms)
-        window = self.window(form)
-        if window is not None:
-            pager = 2
-            self.do([f"activate {form}"], lambda: self.screen.ask_manager(
-                window, "_NET_ACTIVE_WINDOW", pager, 0))
-
-    def place_window(self, flags, *place):
-        window = self.window(self.front())
-        if window is not None:
-            self.do([], lambda: self.screen.ask_manager(
-                window, "_NET_MOVERESIZE_WINDOW", flags << 8 | 2 << 12, *place))
-
-    def resize(self):
-        size = self.random.randrange(300, 1200), self.random.randrange(300, 1000)
-        self.place_window(0b1100, 0, 0, *size)
-
-    def move(self):
-        place = self.random.randrange(0, 400), self.random.randrange(0, 300)
-        self.place_window(0b0011, *place, 0, 0)

@@ -99,8 +99,13 @@ def tooltip_of(top):
 
 def fields_of(top):
     """The form of a window, and its fields by their names."""
+    found = list(leaves(top))
+    # A box with a message has an icon, a text and one or two buttons.
+    if re.fullmatch("f?l{1,3}f?b{1,2}", "".join(map(shape, found))):
+        return "message", {str(i): leaf for i, leaf in enumerate(found)}
     tooltip = tooltip_of(top)
-    found = [leaf for leaf in leaves(top) if tooltip is None or leaf not in tooltip.children]
+    if tooltip is not None:
+        found = [leaf for leaf in found if leaf not in tooltip.children]
     shapes = "".join(map(shape, found))
     for form, fields in FORMS.items():
         if shapes == "".join(field[0] for field in fields):
@@ -108,7 +113,4 @@ def fields_of(top):
             if tooltip is not None:
                 named.update({"picToolTip": tooltip, "LblTooltip": tooltip.children[0]})
             return form, named
-    # A box with a message has an icon, a text and one or two buttons.
-    if re.fullmatch("f?l{1,3}f?b{1,2}", shapes):
-        return "message", {str(i): leaf for i, leaf in enumerate(found)}
     raise UnknownWindow(f"window {top.name!r} of {shapes}")
