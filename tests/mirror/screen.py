@@ -51,6 +51,8 @@ class Screen:
         """Panels at the sides of the screen, in the place of those before, as thick as that."""
         for panel in self.panels:
             panel.destroy()
+        # A new one may get the number of one that has gone, and would be taken for that.
+        self.hear_manager()
         whole = self.display.screen()
         width, height = whole.width_in_pixels, whole.height_in_pixels
         bars = [(0, 0, left, height), (0, 0, width, top), (width - right, 0, right, height),

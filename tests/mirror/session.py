@@ -139,7 +139,7 @@ class Session:
                 "text": texts[0].replace("\n", "\\n") if texts else "",
                 "buttons": sorted(buttons)}
         wanted["text"] = wanted["text"].replace("\\r\\n", "\\n").replace("\\r", "\\n")
-        if self.asked_about:
+        if self.asked_about and wanted["icon"] == ICONS["question"]:
             wanted["marked"] = self.asked_about
             seen["marked"] = marked_rows(self.seen.fields["Total"]["grdResult"])
         found = differences(wanted, seen)
