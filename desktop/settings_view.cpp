@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTabBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -63,7 +64,19 @@ SettingsView::SettingsView(Desktop& desktop, Settings& settings)
     Bind<ButtonBinder>(*field, *button);
   }
   column->addLayout(buttons);
+  const auto turn = [this](const QKeySequence& key, int by) {
+    new QShortcut(key, this, [this, by] { Turn_Tabs(by); });
+  };
+  turn(Qt::CTRL | Qt::Key_Tab, 1);
+  turn(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, -1);
+  turn(Qt::CTRL | Qt::Key_PageDown, 1);
+  turn(Qt::CTRL | Qt::Key_PageUp, -1);
   Give_Letters({&settings.Label6(0), &settings.Label6(1), &settings.Command1, &settings.Command2});
+}
+
+void SettingsView::Turn_Tabs(int by) {
+  const int tabs = settings_.SSTab1.Count();
+  Send(UserAction::kPickTab, settings_.SSTab1, (settings_.SSTab1.Tab() + by + tabs) % tabs);
 }
 
 void SettingsView::Add_Saving_Row(QGridLayout& grid, int row, CaptionField& heading,

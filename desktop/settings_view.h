@@ -23,6 +23,7 @@ class SettingsView : public FormView {
  private:
   void Add_Saving_Row(QGridLayout& grid, int row, CaptionField& heading, TextField& field,
                       Stepper& stepper);
+  void Turn_Tabs(int by);
 
   Settings& settings_;
 };

@@ -35,6 +35,7 @@ TotalView::TotalView(Desktop& desktop, Total& total)
   auto* table = new RowTable;
   column->addWidget(table, 1);
   Bind<GridBinder>(total.grdResult, *table);
+  Close_By_Escape();
   connect(delete_, &QPushButton::clicked, table, &RowTable::Picked);
   auto* strip = new QWidget;
   auto* row = new QHBoxLayout(strip);

@@ -52,6 +52,22 @@ TEST_F(SettingsDialog, Each_Of_Its_Buttons_Brings_Its_Tab_To_The_Front) {
   With_Dialog(Screen().cmdToolBar3(0), [&] { look(2); });
 }
 
+TEST_F(SettingsDialog, Ctrl_And_Tab_Turn_The_Tabs) {
+  With_Dialog(Screen().cmdToolBar5(0), [this] {
+    for (const int tab : {1, 2, 0}) {
+      Press(Qt::Key_Tab, Qt::ControlModifier);
+      Settle();
+      Expect_Tab(tab);
+    }
+    for (const int tab : {2, 1}) {
+      Press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+      Settle();
+      Expect_Tab(tab);
+    }
+    Press(Qt::Key_Escape);
+  });
+}
+
 TEST_F(SettingsDialog, A_Size_That_The_Main_Screen_Gets_Meanwhile_Is_Told_Afterwards) {
   const QSize size = Main_View().size() + QSize(60, 30);
   With_Dialog(Screen().cmdToolBar5(0), [&] {

@@ -129,6 +129,15 @@ TEST_F(Totals, No_Keeps_The_Lines) {
   EXPECT_TRUE(View(List()).isVisible());
 }
 
+TEST_F(Totals, Escape_Closes_The_Window) {
+  Add_Lines({"6", "9"});
+  Open();
+  Press(Qt::Key_Escape);
+  Wait_Until_Active(Screen());
+  EXPECT_FALSE(State().forms.total.Loaded());
+  EXPECT_TRUE(Widget(Screen().picTotal).isVisible()) << "the lines are kept";
+}
+
 TEST_F(Totals, Escape_Is_No) {
   Add_Lines({"6", "9"});
   Open();
