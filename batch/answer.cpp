@@ -2,9 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 
+#include "batch/problem.h"
 #include "calc/shown_number.h"
 #include "calc/sizes.h"
+#include "host/plain_file.h"
+#include "study/prices.h"
 
 namespace norvane {
 namespace {
@@ -90,12 +94,36 @@ class CondensationAnswer : public Answer {
   std::array<ResultColumn, kCondensationColumns.size() + 1> columns_{};
 };
 
+Prices Prices_In(const std::string& path) {
+  const auto bytes = Bytes_Of(path);
+  if (!bytes) throw BatchProblem(path + ": the prices can't be read");
+  Prices prices = Read_Prices(*bytes);
+  if (!prices.Energy() && prices.of_pipe.empty() && prices.of_sheet.empty()) {
+    throw BatchProblem(path + ": there is no price in it");
+  }
+  return prices;
+}
+
+/// The thicknesses that are asked for, or else all that there are. One that has no cost there has
+/// that of the prices.
+std::vector<Insulation> Choices(const Options& options, const std::map<double, double>& costs) {
+  if (options.choices.empty()) return Choices_With_Costs(costs);
+  std::vector<Insulation> choices = options.choices;
+  for (Insulation& choice : choices) {
+    const auto known = costs.find(choice.thickness_mm);
+    if (!choice.cost && known != costs.end()) choice.cost = known->second;
+  }
+  return choices;
+}
+
 class CompareAnswer : public Answer {
  public:
   explicit CompareAnswer(const Options& options) {
-    request_.choices = options.choices.empty() ? Usual_Choices() : options.choices;
-    request_.energy = options.energy;
-    request_.years = options.years;
+    const Prices prices = options.prices.empty() ? Prices() : Prices_In(options.prices);
+    request_.energy = options.energy ? options.energy : prices.Energy();
+    request_.years = options.years.value_or(prices.years);
+    for_pipes_ = Choices(options, prices.of_pipe);
+    for_sheets_ = Choices(options, prices.of_sheet);
     columns_.push_back({"thickness_mm", 0, "the thickness that is compared"});
     columns_.insert(columns_.end(), kHeatLossColumns.begin(), kHeatLossColumns.end());
     columns_.push_back({"money_per_year", 2, "saved, by the price of the energy"});
@@ -109,6 +137,7 @@ class CompareAnswer : public Answer {
   void Rows(const Object& object, std::vector<ResultRow>& rows, ScheduleSums& sums) const override {
     CompareRequest request = request_;
     request.object = object;
+    request.choices = object.kind == kSheet ? for_sheets_ : for_pipes_;
     const std::vector<Compared> compared = Compare(request);
     rows.resize(compared.size());
     for (std::size_t i = 0; i < compared.size(); ++i) {
@@ -139,10 +168,13 @@ class CompareAnswer : public Answer {
   }
 
   void Set_Money(const std::optional<double>& amount, Place place, ResultRow& row) const {
-    if (amount) Set_Shown(row.cells[place], Shown(*amount, columns_[place].decimals));
+    const auto shown = Shown_Amount(amount, columns_[place].decimals);
+    if (shown) Set_Shown(row.cells[place], *shown);
   }
 
-  CompareRequest request_;
+  CompareRequest request_;  // without an object and its choices
+  std::vector<Insulation> for_pipes_;
+  std::vector<Insulation> for_sheets_;
   std::vector<ResultColumn> columns_;
 };
 

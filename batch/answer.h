@@ -43,6 +43,7 @@ class Answer {
                     ScheduleSums& sums) const = 0;
 };
 
+/// Throws `BatchProblem` for a file of prices that can't be used.
 std::unique_ptr<Answer> Make_Answer(const Options& options);
 
 /// A row without results.

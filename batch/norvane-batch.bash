@@ -2,7 +2,7 @@
 _norvane_batch() {
   local current=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
   local options="--mode --output --format --decimal --separator --columns --no-header
-    --thicknesses --gas-price --oil-price --electricity-price --years --threads --template
+    --thicknesses --prices --gas-price --oil-price --electricity-price --years --threads --template
     --list-columns --quiet --help --version"
   case $before in
     -m | --mode) mapfile -t COMPREPLY < <(compgen -W "heat-loss compare condensation" -- "$current") ;;

@@ -86,7 +86,7 @@ bool Take_Thicknesses(Options& options, const std::string& value) {
 }
 
 bool Take_Years(Options& options, const std::string& value) {
-  return Read_Number(value, '.', options.years) && options.years > 0;
+  return Read_Number(value, '.', options.years.emplace()) && options.years > 0;
 }
 
 bool Take_Threads(Options& options, const std::string& value) {
@@ -130,6 +130,12 @@ constexpr Option kOptions[] = {
      "write none"},
     {"thicknesses", 't', "LIST", Take_Thicknesses,
      "compare: such as 13,20,25 or, with the cost of a metre or\nsquare metre, 13=4.20,20=5.50"},
+    {"prices", 'p', "FILE",
+     [](Options& options, const std::string& value) {
+       options.prices = value;
+       return !value.empty();
+     },
+     "compare: the prices.ini of a Norvane folder; what another\noption says counts instead"},
     {"gas-price", 0, "PRICE",
      [](Options& options, const std::string& value) {
        return Take_Price(options, value, Fuel::kGas);

@@ -29,7 +29,8 @@ struct Options {
   int threads = 0;  ///< 0 for as many as there are cores
   std::vector<Insulation> choices;
   std::optional<EnergyPrice> energy;
-  double years = 10;
+  std::optional<double> years;
+  std::string prices;  ///< a path; what it holds counts where no option says otherwise
 };
 
 struct UsageProblem {

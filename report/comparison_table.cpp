@@ -5,7 +5,6 @@
 
 #include "calc/limits.h"
 #include "calc/shown_number.h"
-#include "data/runtime_error.h"
 #include "study/compare.h"
 
 namespace norvane {
@@ -62,12 +61,8 @@ Table::Cell Shown_Cell(std::int64_t shown, int decimals, const Locale& locale) {
 
 /// An amount beyond all numbers that can be shown has an empty cell.
 Table::Cell Amount_Cell(const std::optional<double>& amount, int decimals, const Locale& locale) {
-  if (!amount) return {};
-  try {
-    return Shown_Cell(Shown(*amount, decimals), decimals, locale);
-  } catch (const RuntimeError&) {
-    return {};
-  }
+  const auto shown = Shown_Amount(amount, decimals);
+  return shown ? Shown_Cell(*shown, decimals, locale) : Table::Cell{};
 }
 
 void Fill_Results(const HeatLossResult& result, const Wording& wording, const Locale& locale,
@@ -89,14 +84,10 @@ std::string Marks(const Table::Row& row, const Wording& wording) {
 
 /// With the object's own thickness in its place.
 std::vector<Insulation> Thicknesses(double own, const std::map<double, double>& costs) {
-  std::vector<Insulation> choices = Usual_Choices();
+  std::vector<Insulation> choices = Choices_With_Costs(costs);
   const auto place = std::ranges::lower_bound(choices, own, {}, &Insulation::thickness_mm);
   const bool listed = place != choices.end() && place->thickness_mm == own;
   if (own >= 0 && own <= kMostThickness && !listed) choices.insert(place, {own, {}});
-  for (Insulation& choice : choices) {
-    const auto cost = costs.find(choice.thickness_mm);
-    if (cost != costs.end()) choice.cost = cost->second;
-  }
   return choices;
 }
 

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "calc/shown_number.h"
 #include "calc/sizes.h"
+#include "data/runtime_error.h"
 
 namespace norvane {
 namespace {
@@ -58,6 +60,15 @@ std::vector<Insulation> Usual_Choices() {
     choices.push_back({static_cast<double>(mm), {}});
   }
   return choices;
+}
+
+std::optional<std::int64_t> Shown_Amount(const std::optional<double>& amount, int decimals) {
+  if (!amount) return std::nullopt;
+  try {
+    return Shown(*amount, decimals);
+  } catch (const RuntimeError&) {
+    return std::nullopt;
+  }
 }
 
 std::vector<Compared> Compare(const CompareRequest& request) {

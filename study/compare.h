@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <variant>
@@ -49,6 +50,12 @@ struct Compared {
 /// The thicknesses that are compared when none are named: the steps of the main screen's arrows,
 /// and on in tens to the most that its field takes.
 std::vector<Insulation> Usual_Choices();
+
+/// An amount as it is shown, in units of the last decimal; nothing for none, and for one that no
+/// count reaches.
+/// @param amount of money, or of years
+/// @param decimals 0 to `kMostDecimals`
+std::optional<std::int64_t> Shown_Amount(const std::optional<double>& amount, int decimals);
 
 /// A row for each choice, in their order.
 /// @param request the object, what it is compared with, and the prices

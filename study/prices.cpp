@@ -114,6 +114,14 @@ std::optional<EnergyPrice> Prices::Energy() const {
   return EnergyPrice{fuel, *price};
 }
 
+std::vector<Insulation> Choices_With_Costs(const std::map<double, double>& costs) {
+  std::map<double, std::optional<double>> by_thickness(costs.begin(), costs.end());
+  for (const Insulation& usual : Usual_Choices()) by_thickness.try_emplace(usual.thickness_mm);
+  std::vector<Insulation> choices;
+  for (const auto& [thickness, cost] : by_thickness) choices.push_back({thickness, cost});
+  return choices;
+}
+
 std::optional<double> Read_Amount(std::string_view text) {
   double amount = 0;
   if (!Read_Number(text, '.', amount) && !Read_Number(text, ',', amount)) return std::nullopt;

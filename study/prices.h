@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "study/compare.h"
 
@@ -32,6 +33,11 @@ struct Prices {
   /// The price of the fuel that counts, nothing where it has none.
   std::optional<EnergyPrice> Energy() const;
 };
+
+/// The usual thicknesses and those that have a cost, from the thinnest to the thickest, each with
+/// the cost that it has.
+/// @param costs by thickness in mm, as those of `Prices`
+std::vector<Insulation> Choices_With_Costs(const std::map<double, double>& costs);
 
 /// The file in the program's folder that holds them.
 inline constexpr const char* kPricesFile = "prices.ini";

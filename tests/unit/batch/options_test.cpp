@@ -56,6 +56,13 @@ TEST(BatchOptions, TakeThicknessesWithTheirCosts) {
   EXPECT_EQ(options.years, 15);
 }
 
+TEST(BatchOptions, MayNameAFileOfPrices) {
+  EXPECT_EQ(Good({"--prices", "prices.ini"}).prices, "prices.ini");
+  EXPECT_EQ(Good({"-p", "a.ini"}).prices, "a.ini");
+  EXPECT_EQ(Good({}).prices, "");
+  EXPECT_EQ(Problem({"--prices", ""}), "--prices  isn't understood");
+}
+
 TEST(BatchOptions, SayWhatTheyDoNotUnderstand) {
   EXPECT_EQ(Problem({"--mode", "warm"}), "--mode warm isn't understood");
   EXPECT_EQ(Problem({"--what"}), "--what isn't understood");

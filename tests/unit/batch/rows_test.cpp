@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "../support/test_folder.h"
 #include "batch/problem.h"
 #include "batch_rows.h"
 
@@ -138,6 +141,80 @@ TEST(BatchRow, OfAComparisonIsARowForEachThickness) {
       "steel,80,15,21,13,0.039,12.5,24.2,53.6,17.0,68,36.58,2.72,2.16,26.34,3.26,1.2,1.92,yes,\n"
       "steel,80,15,21,12.5,0.039,12.5,24.6,53.6,17.4,68,36.24,2.69,2.14,26.09,3.23,,,,\n"
       "steel,80,15,21,101,,,,,,,,,,,,,,,thickness_mm is above 100\n");
+}
+
+/// A comparison by the prices of a file.
+class BatchPrices : public testing::Test {
+ protected:
+  static constexpr const char* kColumns = "kind,medium_C,ambient_C,diameter_mm";
+
+  Options By(const std::string& file) {
+    folder.Write("prices.ini", file);
+    Options options = Of_Mode(Mode::kCompare);
+    options.prices = (folder / "prices.ini").string();
+    return options;
+  }
+  std::string Problem(const Options& options) {
+    try {
+      Calculated(options, kColumns, "");
+    } catch (const BatchProblem& problem) {
+      return problem.what();
+    }
+    return "";
+  }
+
+  TestFolder folder;
+};
+
+TEST_F(BatchPrices, OfAFileAreThoseOfTheOptions) {
+  Options by_file =
+      By("[Energy]\r\nFuel=Oil\r\nGas=9\r\nOil=1,5\r\n[Insulation]\r\nYears=15\r\n"
+         "[Pipe]\r\n13=4.2\r\n20=5.5\r\n[Sheet]\r\n13=30\r\n");
+  by_file.choices = {{13, {}}, {20, {}}, {25, {}}};
+  Options by_options = Of_Mode(Mode::kCompare);
+  by_options.choices = {{13, 4.2}, {20, 5.5}, {25, {}}};
+  by_options.energy = EnergyPrice{Fuel::kOil, 1.5};
+  by_options.years = 15;
+  const std::string pipe = "steel,80,15,21\n";
+  EXPECT_EQ(Calculated(by_file, kColumns, pipe), Calculated(by_options, kColumns, pipe));
+  by_options.choices = {{13, 30.0}, {20, {}}, {25, {}}};
+  const std::string sheet = "sheet,80,15,\n";
+  EXPECT_EQ(Calculated(by_file, kColumns, sheet), Calculated(by_options, kColumns, sheet));
+}
+
+TEST_F(BatchPrices, OfAFileCountWhereNoOptionSaysOtherwise) {
+  Options options = By("[Energy]\nGas=9\n[Insulation]\nYears=15\n[Pipe]\n13=40\n");
+  options.choices = {{13, 4.0}};
+  options.energy = EnergyPrice{Fuel::kGas, 1.2};
+  options.years = 10;
+  EXPECT_EQ(
+      Calculated(options, kColumns, "steel,80,15,21\n"),
+      "steel,80,15,21,13,0.039,12.5,24.2,53.6,17.0,68,36.58,2.72,2.16,26.34,3.26,1.2,1.92,yes,\n");
+}
+
+TEST_F(BatchPrices, OfOtherThicknessesAreComparedToo) {
+  const std::string rows =
+      Calculated(By("[Energy]\nGas=1.2\n[Pipe]\n35=7\n"), kColumns, "steel,80,15,21\n");
+  EXPECT_EQ(std::count(rows.begin(), rows.end(), '\n'), 15);
+  EXPECT_NE(rows.find("21,30,"), std::string::npos);
+  EXPECT_NE(rows.find("21,35,"), std::string::npos);
+}
+
+TEST_F(BatchPrices, BeyondWhatCanBeShownAreLeftOut) {
+  const std::string rows =
+      Calculated(By("[Energy]\nElectricity=1e12\nFuel=Electricity\n"),
+                 std::string(kColumns) + ",length_m", "steel,80,15,21,10000\n");
+  EXPECT_NE(rows.find("steel,80,15,21,10000,13,"), std::string::npos);
+  EXPECT_TRUE(rows.ends_with(",,,,\n")) << rows;
+}
+
+TEST_F(BatchPrices, ThatAreNotThereAreAProblem) {
+  Options options = By("");
+  EXPECT_EQ(Problem(options), options.prices + ": there is no price in it");
+  options.prices = (folder / "other.ini").string();
+  EXPECT_EQ(Problem(options), options.prices + ": the prices can't be read");
+  options.prices = folder.Path().string();
+  EXPECT_EQ(Problem(options), options.prices + ": the prices can't be read");
 }
 
 TEST(BatchHeader, WithoutItsColumnsIsAProblemOfItsLine) {
