@@ -16,7 +16,7 @@ class CsvWriter : public RowWriter {
   void Header(std::string& out) const override {
     for (const std::size_t i : job_.Kept()) Name(job_.Names()[i], out);
     for (const ResultColumn& column : columns_) Name(column.name, out);
-    out += kRemark;
+    out += kRemarkColumn;
     out += '\n';
   }
 

@@ -35,10 +35,10 @@ Job::Job(const Options& options, const std::string& header, std::size_t line)
   const auto results = answer_->Columns();
   for (std::size_t i = 0; i < fields.size(); ++i) {
     const std::string& name = names_.emplace_back(Field_Text(fields[i]));
-    const bool result = name == kRemark || std::any_of(results.begin(), results.end(),
-                                                       [&](const ResultColumn& column) {
-                                                         return column.name == name;
-                                                       });
+    const bool result = name == kRemarkColumn || std::any_of(results.begin(), results.end(),
+                                                             [&](const ResultColumn& column) {
+                                                               return column.name == name;
+                                                             });
     if (!result) kept_.push_back(i);
   }
 }

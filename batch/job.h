@@ -42,7 +42,4 @@ class Job {
   std::vector<std::size_t> kept_;
 };
 
-/// The last column, behind the results.
-inline constexpr std::string_view kRemark = "remark";
-
 }  // namespace norvane

@@ -38,7 +38,7 @@ class JsonWriter : public RowWriter {
     for (const std::size_t i : job_.Kept()) Field(input.fields[i], i, out);
     for (std::size_t i = 0; i < columns_.size(); ++i) Result(result.cells[i], columns_[i], out);
     if (!result.remark.empty()) {
-      Name(kRemark, out);
+      Name(kRemarkColumn, out);
       Append_String(result.remark, out);
     }
     // What stands before the first name is a comma.

@@ -48,7 +48,7 @@ std::string Column_List(const Options& options) {
   for (const ResultColumn& column : answer->Columns()) {
     text += line(column.name, std::string(column.meaning));
   }
-  return text + line(kRemark, "no saving, or why the row has no result");
+  return text + line(kRemarkColumn, "no saving, or why the row has no result");
 }
 
 std::string Template(const Options& options) {

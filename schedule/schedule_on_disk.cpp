@@ -1,6 +1,7 @@
 #include "schedule/schedule_on_disk.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "data/csv.h"
 #include "host/plain_file.h"
@@ -53,7 +54,11 @@ std::variant<ScheduleFile, ScheduleFileProblem> Schedule_Of(std::string_view byt
   while (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
   const char separator = Dialect_Of_Header(bytes.substr(0, bytes.find('\n'))).separator;
   if (auto problem = Size_Problem(bytes, separator)) return *problem;
-  return Read_Schedule(bytes, Question::kHeatLoss);
+  auto read = Read_Schedule(bytes, Question::kHeatLoss);
+  if (auto* schedule = std::get_if<ScheduleFile>(&read)) {
+    *schedule = Without_Results(std::move(*schedule));
+  }
+  return read;
 }
 
 std::uint64_t Fingerprint(std::string_view bytes) {

@@ -17,7 +17,8 @@ inline constexpr std::size_t kMostFields = 2'000'000;
 /// The longest row, in bytes; a longer one has a quote that isn't closed, most likely.
 inline constexpr std::size_t kLongestRow = 65'536;
 
-/// A schedule of any bytes, or why they aren't one and in which line.
+/// A schedule of any bytes, without the results of an earlier run, or why they aren't one and in
+/// which line.
 std::variant<ScheduleFile, ScheduleFileProblem> Schedule_Of(std::string_view bytes);
 
 /// By which a file is known again: others differ in it, but for one case in some trillions.

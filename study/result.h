@@ -46,6 +46,9 @@ inline constexpr std::array<ResultColumn, 10> kHeatLossColumns = {{
     {"electricity_kWh", 2, "electricity saved"},
 }};
 
+/// The column behind the results of a file: "no saving", or why a row has no result.
+inline constexpr std::string_view kRemarkColumn = "remark";
+
 /// The first column that tells of a saving.
 inline constexpr std::size_t kFirstSaving = 5;
 

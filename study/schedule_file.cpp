@@ -4,6 +4,7 @@
 
 #include "data/utf8.h"
 #include "study/object_reader.h"
+#include "study/result.h"
 
 namespace norvane {
 namespace {
@@ -112,6 +113,23 @@ std::string Write_Schedule(const ScheduleFile& schedule) {
   Append_Header(bytes, schedule.header, schedule.dialect.separator);
   for (const auto& row : schedule.rows) Append_Row(bytes, row, schedule.dialect.separator);
   return bytes;
+}
+
+ScheduleFile Without_Results(ScheduleFile schedule) {
+  const auto is_result = [](std::string_view name) {
+    return std::ranges::find(kHeatLossColumns, name, &ResultColumn::name) != kHeatLossColumns.end();
+  };
+  if (std::ranges::none_of(schedule.header, is_result)) return schedule;
+  for (std::size_t column = schedule.header.size(); column-- > 0;) {
+    const std::string& name = schedule.header[column];
+    if (!is_result(name) && name != kRemarkColumn) continue;
+    const auto place = static_cast<std::ptrdiff_t>(column);
+    schedule.header.erase(schedule.header.begin() + place);
+    for (auto& row : schedule.rows) {
+      if (column < row.size()) row.erase(row.begin() + place);
+    }
+  }
+  return schedule;
 }
 
 std::vector<std::variant<Object, Reason>> Objects_Of(const ScheduleFile& schedule,

@@ -45,6 +45,11 @@ std::variant<ScheduleFile, ScheduleFileProblem> Read_Schedule(std::string_view b
 /// @param schedule whose dialect is kept
 std::string Write_Schedule(const ScheduleFile& schedule);
 
+/// The schedule without the columns of a heat loss's results, and the remark behind them, that a
+/// run of `norvane-batch` has left in it. A remark that stands alone is the user's own.
+/// @param schedule as its file has it
+ScheduleFile Without_Results(ScheduleFile schedule);
+
 /// The objects of its rows, or why they can't be read.
 /// @param schedule with the columns of the question
 /// @param question whose columns are read

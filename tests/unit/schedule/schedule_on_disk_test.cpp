@@ -87,6 +87,29 @@ TEST(ScheduleOnDisk, IsSavedOverWhatWasOpened) {
   EXPECT_EQ(folder.Bytes_Of("a.csv"), "two");
 }
 
+std::vector<std::string> Header_Of(std::string_view bytes) {
+  return std::get<ScheduleFile>(Schedule_Of(bytes)).header;
+}
+
+TEST(ScheduleOnDisk, ResultsOfAnEarlierRunAreLeftOut) {
+  const auto opened = Schedule_Of(
+      "name,gas_m3,kind,medium_C,ambient_C,thickness_mm,diameter_mm,surface_C,note,remark\n"
+      "a,2.72,steel,80,15,13,21,24.2,mine,no saving\n"
+      "b,2.72,steel,80,15,13,21\n");
+  const auto& schedule = std::get<ScheduleFile>(opened);
+  using Texts = std::vector<std::string>;
+  EXPECT_EQ(schedule.header, (Texts{"name", "kind", "medium_C", "ambient_C", "thickness_mm",
+                                    "diameter_mm", "note"}));
+  EXPECT_EQ(schedule.rows[0], (Texts{"a", "steel", "80", "15", "13", "21", "mine"}));
+  EXPECT_EQ(schedule.rows[1], (Texts{"b", "steel", "80", "15", "13", "21"}));
+}
+
+TEST(ScheduleOnDisk, ARemarkWithoutResultsIsTheUsersOwn) {
+  const std::string columns = "kind,medium_C,ambient_C,thickness_mm,diameter_mm,remark";
+  EXPECT_EQ(Header_Of(columns + "\n").back(), "remark");
+  EXPECT_EQ(Header_Of(columns + ",oil_l\n").back(), "diameter_mm");
+}
+
 TEST(ScheduleOnDisk, WhatSomebodyElseHasWrittenMeanwhileStays) {
   const TestFolder folder;
   folder.Write("a.csv", kSchedule);
