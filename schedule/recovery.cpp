@@ -13,6 +13,7 @@
 #include "host/plain_file.h"
 #include "host/random_digits.h"
 #include "host/replace_file.h"
+#include "host/user_id.h"
 
 namespace norvane {
 namespace {
@@ -23,37 +24,6 @@ constexpr std::string_view kBeginning = "schedule-";
 constexpr const char* kKept = ".recovery";
 constexpr const char* kAlive = ".lock";
 constexpr int kHexadecimal = 16;
-
-/// A line with the place, and behind it the schedule as in its own file.
-std::string Bytes_To_Keep(const ScheduleFile& file, const std::optional<SchedulePlace>& place) {
-  std::string bytes;
-  const std::u8string path = place ? place->path.u8string() : std::u8string();
-  Append_Field(bytes, {reinterpret_cast<const char*>(path.data()), path.size()}, ',');
-  std::array<char, 16> digits;
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(),
-                                 place ? place->fingerprint : 0, kHexadecimal)
-                       .ptr;
-  bytes += ',';
-  bytes.append(digits.data(), end);
-  bytes += '\n';
-  return bytes + Write_Schedule(file);
-}
-
-std::optional<RecoveredSchedule> Kept_In(std::string_view bytes) {
-  const std::size_t length = Length_Of_Row(bytes, ',');
-  if (length == std::string_view::npos) return std::nullopt;
-  std::vector<std::string_view> fields;
-  Split_Row(bytes.substr(0, length - 1), ',', fields);
-  auto schedule = Schedule_Of(bytes.substr(length));
-  if (fields.size() != 2 || !std::holds_alternative<ScheduleFile>(schedule)) return std::nullopt;
-  RecoveredSchedule recovered{std::get<ScheduleFile>(std::move(schedule)), {}};
-  if (const std::string path = Field_Text(fields[0]); !path.empty()) {
-    SchedulePlace& place = recovered.place.emplace(SchedulePlace{To_Path(path), 0});
-    std::from_chars(fields[1].data(), fields[1].data() + fields[1].size(), place.fingerprint,
-                    kHexadecimal);
-  }
-  return recovered;
-}
 
 /// What was kept in a folder, the newest first.
 std::vector<std::string> Ids_In(const fs::path& folder) {
@@ -78,6 +48,39 @@ std::vector<std::string> Ids_In(const fs::path& folder) {
 
 }  // namespace
 
+std::string Bytes_To_Keep(const ScheduleFile& file, const std::optional<SchedulePlace>& place) {
+  std::string bytes;
+  const std::u8string path = place ? place->path.u8string() : std::u8string();
+  Append_Field(bytes, {reinterpret_cast<const char*>(path.data()), path.size()}, ',');
+  std::array<char, 16> digits;
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(),
+                                 place ? place->fingerprint : 0, kHexadecimal)
+                       .ptr;
+  bytes += ',';
+  bytes.append(digits.data(), end);
+  bytes += ',';
+  Append_Field(bytes, User_Id(), ',');
+  bytes += '\n';
+  return bytes + Write_Schedule(file);
+}
+
+std::optional<RecoveredSchedule> Kept_In(std::string_view bytes) {
+  const std::size_t length = Length_Of_Row(bytes, ',');
+  if (length == std::string_view::npos) return std::nullopt;
+  std::vector<std::string_view> fields;
+  Split_Row(bytes.substr(0, length - 1), ',', fields);
+  auto schedule = Schedule_Of(bytes.substr(length));
+  if (fields.size() != 3 || !std::holds_alternative<ScheduleFile>(schedule)) return std::nullopt;
+  RecoveredSchedule recovered{
+      std::get<ScheduleFile>(std::move(schedule)), {}, Field_Text(fields[2])};
+  if (const std::string path = Field_Text(fields[0]); !path.empty()) {
+    SchedulePlace& place = recovered.place.emplace(SchedulePlace{To_Path(path), 0});
+    std::from_chars(fields[1].data(), fields[1].data() + fields[1].size(), place.fingerprint,
+                    kHexadecimal);
+  }
+  return recovered;
+}
+
 Recovery::Recovery(fs::path folder) : folder_(std::move(folder)) {}
 
 Recovery::~Recovery() = default;
@@ -86,13 +89,14 @@ fs::path Recovery::Path_Of(const std::string& id, const char* ending) const {
   return Path_In(folder_, std::string(kBeginning) + id + ending);
 }
 
-void Recovery::Keep(const ScheduleFile& file, const std::optional<SchedulePlace>& place) {
+bool Recovery::Keep(const ScheduleFile& file, const std::optional<SchedulePlace>& place) {
   if (id_.empty()) {
     id_ = Random_Digits();
     held_ = std::make_unique<HeldFile>(Path_Of(id_, kAlive));
   }
   const std::string bytes = Bytes_To_Keep(file, place);
   Replace_File(Path_Of(id_, kKept), [&](const std::string&) { return bytes; });
+  return Bytes_Of(Path_Of(id_, kKept)) == bytes;
 }
 
 void Recovery::Drop() {
@@ -105,10 +109,16 @@ void Recovery::Drop() {
 }
 
 std::optional<RecoveredSchedule> Recovery::Take_Over(const std::string& id) {
+  const auto kept = [&] {
+    const auto bytes = Bytes_Of(Path_Of(id, kKept));
+    auto recovered = bytes ? Kept_In(*bytes) : std::nullopt;
+    return recovered && recovered->user == User_Id() ? std::move(recovered) : std::nullopt;
+  };
+  // Of what is another user's nothing is touched.
+  if (!kept()) return std::nullopt;
   auto held = std::make_unique<HeldFile>(Path_Of(id, kAlive));
   if (held->Now() == HeldFile::State::kTaken) return std::nullopt;
-  const auto bytes = Bytes_Of(Path_Of(id, kKept));
-  auto recovered = bytes ? Kept_In(*bytes) : std::nullopt;
+  auto recovered = kept();
   if (!recovered) return std::nullopt;
   if (held->Now() == HeldFile::State::kHeld) {
     id_ = id;

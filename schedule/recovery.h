@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "schedule/schedule_on_disk.h"
 
@@ -15,7 +16,15 @@ class HeldFile;
 struct RecoveredSchedule {
   ScheduleFile file;
   std::optional<SchedulePlace> place;  ///< nothing for one that was never saved
+  std::string user;                    ///< who made them, a `User_Id`
 };
+
+/// The bytes of a file that keeps a schedule: a line with its place and the user, and behind it the
+/// schedule as in its own file.
+std::string Bytes_To_Keep(const ScheduleFile& file, const std::optional<SchedulePlace>& place);
+
+/// What such a file keeps; nothing for bytes that are none.
+std::optional<RecoveredSchedule> Kept_In(std::string_view bytes);
 
 /// Keeps the unsaved changes of this process in a file of their own, so that they outlive it. Each
 /// process has its own; one that is left behind is recovered by one other.
@@ -28,12 +37,13 @@ class Recovery {
   Recovery(const Recovery&) = delete;
   Recovery& operator=(const Recovery&) = delete;
 
-  /// Writes the schedule into the file. Silent when the folder can't be written to.
-  void Keep(const ScheduleFile& file, const std::optional<SchedulePlace>& place);
+  /// Writes the schedule into the file. False when the folder can't be written to.
+  bool Keep(const ScheduleFile& file, const std::optional<SchedulePlace>& place);
   /// The changes were saved, or aren't wanted.
   void Drop();
 
-  /// Takes over what a process that isn't there any more has left behind, the newest of several.
+  /// Takes over what a process of the same user that isn't there any more has left behind, the
+  /// newest of several.
   /// It is this process's own from then on.
   std::optional<RecoveredSchedule> Take_Over();
 

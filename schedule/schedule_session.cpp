@@ -59,12 +59,10 @@ Saving ScheduleSession::Save_As(const std::filesystem::path& path) {
   return Kept(saving);
 }
 
-void ScheduleSession::Keep() {
-  if (document_->Changed()) {
-    recovery_.Keep(document_->Table().File(), place_);
-  } else {
-    recovery_.Drop();
-  }
+bool ScheduleSession::Keep() {
+  if (document_->Changed()) return recovery_.Keep(document_->Table().File(), place_);
+  recovery_.Drop();
+  return true;
 }
 
 }  // namespace norvane

@@ -39,8 +39,9 @@ class ScheduleSession {
   Saving Save();
   /// Saves into another file, whatever it holds; it is the schedule's own from then on.
   Saving Save_As(const std::filesystem::path& path);
-  /// Sees to it that the rows as they are outlive a crash.
-  void Keep();
+  /// Sees to it that the rows as they are outlive a crash. False when they wouldn't, since the
+  /// folder can't be written to.
+  bool Keep();
 
  private:
   void Show(ScheduleFile file, std::optional<SchedulePlace> place);

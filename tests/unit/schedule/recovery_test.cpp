@@ -4,6 +4,7 @@
 
 #include "../support/child_process.h"
 #include "../support/test_folder.h"
+#include "host/user_id.h"
 
 namespace norvane {
 namespace {
@@ -55,7 +56,7 @@ TEST(Recovery, NothingIsLeftOfWhatWasDropped) {
   const TestFolder folder;
   {
     Recovery recovery(folder.Path());
-    recovery.Keep(Schedule_Named("mine"), {});
+    EXPECT_TRUE(recovery.Keep(Schedule_Named("mine"), {}));
     EXPECT_EQ(folder.Names().size(), 2u);
     recovery.Drop();
   }
@@ -110,6 +111,23 @@ TEST(Recovery, AnEndWithoutDroppingLeavesTheChanges) {
   EXPECT_EQ(Name_In(Recovery(folder.Path()).Take_Over()), "mine");
 }
 
+TEST(Recovery, AnotherUsersIsLeftAlone) {
+  const TestFolder folder;
+  Break_Off(folder, "theirs");
+  for (const std::string& name : folder.Names()) {
+    if (!name.ends_with(".recovery")) {
+      std::filesystem::remove(folder / name);
+      continue;
+    }
+    std::string bytes = folder.Bytes_Of(name);
+    const std::string mine = ',' + User_Id() + '\n';
+    ASSERT_NE(bytes.find(mine), std::string::npos);
+    folder.Write(name, bytes.replace(bytes.find(mine), mine.size(), ",somebody else\n"));
+  }
+  EXPECT_EQ(Name_In(Recovery(folder.Path()).Take_Over()), "nothing");
+  EXPECT_EQ(folder.Names().size(), 1u) << "not even a file that tells that somebody looks at it";
+}
+
 TEST(Recovery, BytesOfAnyKindAreNoSchedule) {
   const TestFolder folder;
   for (const char* bytes : {"", "\n", "a,1\n", "\"a", "a\nkind,medium_C\n", "\xFF\xFE\n\n"}) {
@@ -121,7 +139,7 @@ TEST(Recovery, BytesOfAnyKindAreNoSchedule) {
 TEST(Recovery, AFolderThatIsNotThereIsNoHindrance) {
   const TestFolder folder;
   Recovery recovery(folder / "missing");
-  recovery.Keep(Schedule_Named("mine"), {});
+  EXPECT_FALSE(recovery.Keep(Schedule_Named("mine"), {}));
   EXPECT_EQ(Name_In(recovery.Take_Over()), "nothing");
   recovery.Drop();
 }
