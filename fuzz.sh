@@ -15,8 +15,8 @@ install_packages "to build the fuzzers" clang libclang-rt-dev llvm cmake ninja-b
 cmake --preset fuzz -DNORVANE_WERROR=ON >/dev/null
 cmake --build --preset fuzz
 
-fuzzers="address_files cell_ranges code_pages export language_files numbers schedule_file schedule_rows script_lines
-  settings_file user_events workbook"
+fuzzers="address_files cell_ranges code_pages export language_files numbers recovery schedule_document schedule_file
+  schedule_rows script_lines settings_file user_events workbook"
 export LOCPATH="$PWD/build/fuzz/locales"
 finds=build/fuzz-finds
 mkdir -p "$finds"
@@ -44,11 +44,11 @@ figure() { sed -n "s/^stat::$2: *//p" "build/fuzz/$1.log"; }
 # The edges of the program that the corpus reaches, and all that there are in this fuzzer.
 reached() { grep -o 'cov: [0-9]*' "build/fuzz/$1.log" | tail -n 1 | cut -d ' ' -f 2; }
 edges() { sed -n 's/.*(\([0-9]*\) inline 8-bit counters).*/\1/p' "build/fuzz/$1.log" | head -n 1; }
-printf '%-16s %12s %10s %10s %14s %6s\n' fuzzer executions seconds corpus edges finds
+printf '%-18s %12s %10s %10s %14s %6s\n' fuzzer executions seconds corpus edges finds
 : >build/fuzz/this_run
 for fuzzer in $fuzzers; do
   executions=$(figure "$fuzzer" number_of_executed_units)
-  printf '%-16s %12s %10s %10s %14s %6s\n' "$fuzzer" "$executions" "$seconds" \
+  printf '%-18s %12s %10s %10s %14s %6s\n' "$fuzzer" "$executions" "$seconds" \
     "$(find "build/fuzz-corpus/$fuzzer" -type f | wc -l)" "$(reached "$fuzzer") of $(edges "$fuzzer")" \
     "$(find "$finds" -name "$fuzzer-*" -newer build/fuzz/run_one | wc -l)"
   echo "$fuzzer ${executions:-0} $seconds" >>build/fuzz/this_run
