@@ -1,8 +1,10 @@
-// The main screen and the program without a window answer the same, to the last shown digit, for
-// 10,000 objects drawn at random over all that the screen's fields take.
+// The main screen, the table of a schedule's window and the program without a window answer the
+// same, to the last shown digit, for 10,000 objects drawn at random over all that the screen's
+// fields take.
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -11,8 +13,11 @@
 #include "../support/test_program.h"
 #include "batch_rows.h"
 #include "calc/conversions.h"
+#include "calc/shown_number.h"
 #include "catalogue/settings_form.h"
 #include "frame/shared_state.h"
+#include "schedule/schedule_on_disk.h"
+#include "schedule/schedule_table.h"
 
 namespace norvane {
 namespace {
@@ -106,6 +111,24 @@ std::vector<std::string> Answered(const Object& object, char decimal) {
   return fields;
 }
 
+/// The results of the same row in a schedule that is edited; those of a saving only where there is
+/// one.
+std::vector<std::string> In_A_Schedule(const Object& object, char decimal) {
+  const auto file = Schedule_Of(std::string(kHeader) + '\n' + Row(object, decimal) + '\n');
+  ScheduleFile schedule = std::get<ScheduleFile>(file);
+  schedule.dialect.decimal = decimal;
+  const ScheduleTable table(schedule);
+  const auto& shown = std::get<ShownHeatLoss>(table.Result(0));
+  std::vector<std::string> texts;
+  for (std::size_t i = 0; i < (shown.saves ? shown.values.size() : kFirstSaving); ++i) {
+    std::array<char, kLongestShown> text{};
+    char* const end =
+        Write_Shown(text.data(), shown.values[i], kHeatLossColumns[i].decimals, decimal);
+    texts.emplace_back(text.data(), end);
+  }
+  return texts;
+}
+
 void Expect_Agreement(char decimal, bool whole_numbers) {
   RandomObjects objects(decimal == '.' ? 23 : 29);
   UserOfTheScreen user(decimal);
@@ -128,6 +151,7 @@ void Expect_Agreement(char decimal, bool whole_numbers) {
       }
       answered.resize(shown.size());
       ASSERT_EQ(answered, shown) << Row(object, '.');
+      ASSERT_EQ(In_A_Schedule(object, decimal), shown) << Row(object, '.');
     }
   }
   EXPECT_GT(without_saving, 0);

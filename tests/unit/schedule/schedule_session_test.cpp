@@ -10,6 +10,21 @@ namespace {
 constexpr const char* kSchedule =
     "kind;medium_C;ambient_C;thickness_mm;diameter_mm\r\nsteel;80,5;15;13;21\r\n";
 
+/// Sessions of a user whose folder holds the file a.csv.
+class ScheduleSessions : public testing::Test {
+ protected:
+  ScheduleSessions() { folder.Write("a.csv", kSchedule); }
+
+  /// The file is opened and changed, and never saved.
+  void Leave_A_Change() {
+    ScheduleSession session(folder.Path(), '.');
+    EXPECT_FALSE(session.Open(folder / "a.csv"));
+    session.Document().Set_Text(0, 1, "60");
+  }
+
+  const TestFolder folder;
+};
+
 TEST(ScheduleSession, BeginsWithAnEmptyScheduleThatIsNotWorthKeeping) {
   const TestFolder folder;
   {
@@ -22,14 +37,8 @@ TEST(ScheduleSession, BeginsWithAnEmptyScheduleThatIsNotWorthKeeping) {
   EXPECT_TRUE(folder.Names().empty());
 }
 
-TEST(ScheduleSession, WhatItEndedWithUnsavedComesBack) {
-  const TestFolder folder;
-  folder.Write("a.csv", kSchedule);
-  {
-    ScheduleSession session(folder.Path(), '.');
-    EXPECT_FALSE(session.Open(folder / "a.csv"));
-    session.Document().Set_Text(0, 1, "60");
-  }
+TEST_F(ScheduleSessions, WhatItEndedWithUnsavedComesBack) {
+  Leave_A_Change();
   ScheduleSession session(folder.Path(), '.');
   ASSERT_TRUE(session.Recover());
   EXPECT_TRUE(session.Recovered());
@@ -42,14 +51,8 @@ TEST(ScheduleSession, WhatItEndedWithUnsavedComesBack) {
   EXPECT_EQ(folder.Names(), std::vector<std::string>{"a.csv"});
 }
 
-TEST(ScheduleSession, ARecoveredScheduleOverwritesNothingNewer) {
-  const TestFolder folder;
-  folder.Write("a.csv", kSchedule);
-  {
-    ScheduleSession session(folder.Path(), '.');
-    EXPECT_FALSE(session.Open(folder / "a.csv"));
-    session.Document().Set_Text(0, 1, "60");
-  }
+TEST_F(ScheduleSessions, ARecoveredScheduleOverwritesNothingNewer) {
+  Leave_A_Change();
   folder.Write("a.csv", "theirs");
   ScheduleSession session(folder.Path(), '.');
   ASSERT_TRUE(session.Recover());
@@ -69,9 +72,7 @@ TEST(ScheduleSession, NothingIsKeptOfChangesThatWereTakenBack) {
   EXPECT_TRUE(folder.Names().empty());
 }
 
-TEST(ScheduleSession, SavedElsewhereItBelongsThere) {
-  const TestFolder folder;
-  folder.Write("a.csv", kSchedule);
+TEST_F(ScheduleSessions, SavedElsewhereItBelongsThere) {
   ScheduleSession session(folder.Path(), '.');
   EXPECT_FALSE(session.Open(folder / "a.csv"));
   EXPECT_EQ(session.Save_As(folder / "b.csv"), Saving::kDone);
@@ -81,9 +82,7 @@ TEST(ScheduleSession, SavedElsewhereItBelongsThere) {
   EXPECT_EQ(folder.Bytes_Of("b.csv"), "kind;medium_C;ambient_C;thickness_mm;diameter_mm\r\n");
 }
 
-TEST(ScheduleSession, AFailureLeavesEverythingAsItIs) {
-  const TestFolder folder;
-  folder.Write("a.csv", kSchedule);
+TEST_F(ScheduleSessions, AFailureLeavesEverythingAsItIs) {
   ScheduleSession session(folder.Path(), '.');
   EXPECT_FALSE(session.Open(folder / "a.csv"));
   session.Document().Delete(0, 1);

@@ -144,16 +144,24 @@ TEST_F(WhatFieldsCanBeGiven, TakesNothingForWhatIsNoNumber) {
   }
 }
 
+/// What comes of a text that is typed for a field.
+struct Typed {
+  const char* text;
+  InputRow row;
+  const char* becomes;
+};
+
 TEST_F(WhatFieldsCanBeGiven, CutsANumberToTheLimits) {
-  EXPECT_EQ(Entered("115", kMedium), "115");
-  EXPECT_EQ(Entered("115.1", kMedium), "115");
-  EXPECT_EQ(Entered("-50", kMedium), "-50");
-  EXPECT_EQ(Entered("-51", kMedium), "-50");
-  EXPECT_EQ(Entered("99999999999999999999", kMedium), "115");
-  EXPECT_EQ(Entered("5", kDiameter), "6");
-  EXPECT_EQ(Entered("916", kDiameter), "915");
-  EXPECT_EQ(Entered("-1", kLength), "0");
-  EXPECT_EQ(Entered("10001", kLength), "10000");
+  const Typed kTyped[] = {{"115", kMedium, "115"},
+                          {"115.1", kMedium, "115"},
+                          {"-50", kMedium, "-50"},
+                          {"-51", kMedium, "-50"},
+                          {"5", kDiameter, "6"},
+                          {"916", kDiameter, "915"},
+                          {"-1", kLength, "0"},
+                          {"10001", kLength, "10000"},
+                          {"99999999999999999999", kMedium, "115"}};
+  for (const auto& [text, row, becomes] : kTyped) EXPECT_EQ(Entered(text, row), becomes) << text;
 }
 
 TEST_F(WhatFieldsCanBeGiven, TakesTheFirstDigitsOfAnEntryWhereNoEntryIsAsLow) {
@@ -164,22 +172,21 @@ TEST_F(WhatFieldsCanBeGiven, TakesTheFirstDigitsOfAnEntryWhereNoEntryIsAsLow) {
 }
 
 TEST_F(WhatFieldsCanBeGiven, TakesTheNearestEntryWhereThereIsNothingElse) {
-  EXPECT_EQ(Entered("28", kTableTemperature), "28");
-  EXPECT_EQ(Entered("33", kTableTemperature), "35");
-  EXPECT_EQ(Entered("-100", kTableTemperature), "-20");
-  EXPECT_EQ(Entered("81", kHumidity), "80");
-  EXPECT_EQ(Entered("100", kHumidity), "95");
+  const Typed kTyped[] = {{"28", kTableTemperature, "28"},
+                          {"33", kTableTemperature, "35"},
+                          {"-100", kTableTemperature, "-20"},
+                          {"81", kHumidity, "80"},
+                          {"100", kHumidity, "95"}};
+  for (const auto& [text, row, becomes] : kTyped) EXPECT_EQ(Entered(text, row), becomes) << text;
 }
 
 TEST_F(WhatFieldsCanBeGiven, IsFoundByTheFirstLettersAndElseByNearness) {
-  EXPECT_EQ(Place("2", kDiameter), "21");
-  EXPECT_EQ(Place("27", kDiameter), "27");
-  EXPECT_EQ(Place("22", kDiameter), "21");
-  EXPECT_EQ(Place("220", kDiameter), "219");
-  EXPECT_EQ(Place("-", kMedium), "-40");
-  EXPECT_EQ(Place("", kMedium), "-40");
-  // Where the nearest entry is what is taken, it is what is found.
-  EXPECT_EQ(Place("3", kTableTemperature), "2");
+  // Where the nearest entry is what is taken, as of the table, it is what is found.
+  const Typed kTyped[] = {{"2", kDiameter, "21"},       {"27", kDiameter, "27"},
+                          {"22", kDiameter, "21"},      {"220", kDiameter, "219"},
+                          {"-", kMedium, "-40"},        {"", kMedium, "-40"},
+                          {"3", kTableTemperature, "2"}};
+  for (const auto& [text, row, found] : kTyped) EXPECT_EQ(Place(text, row), found) << text;
 }
 
 TEST_F(WhatFieldsCanBeGiven, IsReachedByClicksFromEveryEntryOfALockedField) {
