@@ -16,20 +16,34 @@ namespace fs = std::filesystem;
 
 constexpr std::chrono::seconds kPatience{60};
 
-/// A new file's path in a folder of its own.
-fs::path New_File(const fs::path& title) {
-  fs::path file = New_Workbook_Folder() / title;
-  file += ".xlsx";
-  return file;
-}
+/// A folder that goes again unless something lies in it.
+struct NewFolder {
+  NewFolder() = default;
+  NewFolder(const NewFolder&) = delete;
+  NewFolder& operator=(const NewFolder&) = delete;
+  ~NewFolder() {
+    std::error_code error;
+    fs::remove(path, error);
+  }
 
-/// What could not be written leaves nothing behind.
-bool Write_Or_Remove(WriteWorkbook* write, const Workbook& book, const fs::path& file) {
-  if (write(book, file)) return true;
-  std::error_code error;
-  fs::remove_all(file.parent_path(), error);
-  return false;
-}
+  fs::path path = New_Workbook_Folder();
+};
+
+/// A workbook's file in a folder of its own. However the writing ends, neither of them is left
+/// unless the file is whole.
+struct NewFile {
+  explicit NewFile(const fs::path& title) : path(folder.path / title) { path += ".xlsx"; }
+  NewFile(const NewFile&) = delete;
+  NewFile& operator=(const NewFile&) = delete;
+  ~NewFile() {
+    std::error_code error;
+    if (!whole) fs::remove(path, error);
+  }
+
+  NewFolder folder;
+  fs::path path;
+  bool whole = false;
+};
 
 }  // namespace
 
@@ -99,9 +113,9 @@ void XlsxSpreadsheet::Release() {
   try {
     // First of all, since without it there is to be no folder either.
     PatientThread thread(waiting_, kPatience);
-    const fs::path file = New_File(book->title);
-    const auto task = [=] { return Write_Or_Remove(write, book->cells, file); };
-    if (thread.Run(task)) open_(file);
+    const auto file = std::make_shared<NewFile>(book->title);
+    const auto task = [=] { return file->whole = write(book->cells, file->path); };
+    if (thread.Run(task)) open_(file->path);
   } catch (const SpreadsheetFailure&) {
     // A step that fails is passed over without a word.
   } catch (const fs::filesystem_error&) {

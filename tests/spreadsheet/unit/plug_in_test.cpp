@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <new>
 #include <string>
 
 #include "spreadsheet/xlsx_spreadsheet.h"
@@ -65,6 +66,15 @@ TEST_F(AWorkbookFile, ThatCannotBeWrittenLeavesNothingBehind) {
   Write_Book();
   EXPECT_EQ(opened_.size(), 1U);
   EXPECT_FALSE(fs::is_empty(temporary));
+}
+
+TEST_F(AWorkbookFile, LeavesNothingBehindWhereMemoryLacks) {
+  fs::copy_file(FAILING_WRITER, folder_ / "norvane_workbook.so");
+  const fs::path temporary = folder_ / "temporary";
+  fs::create_directory(temporary);
+  const UserTemporaryFolder users(temporary);
+  EXPECT_THROW(Write_Book(), std::bad_alloc);
+  EXPECT_TRUE(fs::is_empty(temporary));
 }
 
 TEST_F(AWorkbookFile, IsNotThereWithoutThePlugIn) {
