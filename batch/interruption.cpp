@@ -8,14 +8,25 @@
 #include <thread>
 
 namespace norvane {
+namespace {
 
-void Clear_Up_At_Interruption(const std::filesystem::path& unfinished) {
+sigset_t Interruptions() {
   sigset_t signals;
   sigemptyset(&signals);
   for (const int number : {SIGINT, SIGTERM, SIGHUP}) sigaddset(&signals, number);
-  // All threads that begin later block them too, so that this one alone is told.
+  return signals;
+}
+
+}  // namespace
+
+void Hold_Interruptions() {
+  // All threads that begin later block them too, so that the one that waits for them is told alone.
+  const sigset_t signals = Interruptions();
   pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-  std::thread([signals, unfinished] {
+}
+
+void Clear_Up_At_Interruption(const std::filesystem::path& unfinished) {
+  std::thread([signals = Interruptions(), unfinished] {
     int number = 0;
     if (sigwait(&signals, &number) != 0) return;
     std::error_code error;
@@ -33,6 +44,7 @@ void Clear_Up_At_Interruption(const std::filesystem::path& unfinished) {
 
 namespace norvane {
 
+void Hold_Interruptions() {}
 void Clear_Up_At_Interruption(const std::filesystem::path&) {}
 
 }  // namespace norvane

@@ -87,6 +87,7 @@ int Calculate(const Options& options) {
   if (const std::string names = job.Unread(); !names.empty() && !options.quiet) {
     Say("passed on unread: " + names);
   }
+  Hold_Interruptions();
   const auto output = Make_Output(options, job);
   Clear_Up_At_Interruption(output->Unfinished());
   Report report;

@@ -7,11 +7,10 @@
 #include <system_error>
 
 #include "batch/problem.h"
+#include "data/utf8.h"
 
 namespace norvane {
 namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 std::size_t Lines(std::string_view bytes) {
   return static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
@@ -51,7 +50,7 @@ void RowsInput::Fill() {
 
 std::string RowsInput::Read_Header() {
   Fill();
-  while (pending_.starts_with(kByteOrderMark)) pending_.erase(0, kByteOrderMark.size());
+  pending_.erase(0, pending_.size() - Without_Byte_Order_Mark(pending_).size());
   for (;;) {
     Fill();
     const std::size_t length = Length_Of_Row(pending_, separator_);
