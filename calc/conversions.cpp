@@ -15,8 +15,6 @@ namespace {
 constexpr int kDoubleDigits = 15;
 constexpr int kSingleDigits = 7;
 
-bool Is_Digit(char c) { return c >= '0' && c <= '9'; }
-
 /// Moves `at` behind the digits of `text` and tells how many they were.
 std::size_t Skip_Digits(std::string_view text, std::size_t& at) {
   const std::size_t first = at;

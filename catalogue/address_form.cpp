@@ -2,19 +2,13 @@
 
 #include "catalogue/addresses.h"
 #include "frame/about_form.h"
+#include "frame/dialog_size.h"
 #include "frame/shared_state.h"
 
 namespace norvane {
 namespace {
 
-constexpr double kWidth = 5985;  // twips
-constexpr double kHeight = 4515;
 constexpr Place kListPlace{120, 360, 5715, 3300};
-constexpr double kButtonWidth = 855;
-constexpr double kButtonHeight = 345;
-constexpr double kExitSize = 225;
-
-constexpr int kLastAddress = 20;
 constexpr int kAddressWithPlace = 6;  // its name line ends in field 2
 
 bool Says_Something(const std::string& field) { return field != "-" && !field.empty(); }
@@ -22,7 +16,7 @@ bool Says_Something(const std::string& field) { return field != "-" && !field.em
 }  // namespace
 
 Address::Address(Module1& module1)
-    : Form(module1.desk, "Address", kWidth, kHeight), module1_(module1) {
+    : Form(module1.desk, "Address", kDialogWidth, kDialogHeight), module1_(module1) {
   OK.Set_Caption("OK");
   List1.Set_Place(kListPlace);
   OK.On_Click = [this] { Hide(); };
@@ -32,10 +26,11 @@ Address::Address(Module1& module1)
 void Address::Load() {
   Load_Addresses(module1_);
   Fill_Address_List();
-  Set_Size(kWidth, kHeight);
-  imgExit.Set_Place({Place().width - 280, 25, kExitSize, kExitSize});
-  OK.Set_Place({Place().width - kButtonWidth - 50, List1.Place().top + List1.Place().height + 250,
-                kButtonWidth, kButtonHeight});
+  Set_Size(kDialogWidth, kDialogHeight);
+  imgExit.Set_Place({Place().width - 280, 25, kDialogExitSize, kDialogExitSize});
+  OK.Set_Place({Place().width - kDialogButtonWidth - 50,
+                List1.Place().top + List1.Place().height + 250, kDialogButtonWidth,
+                kDialogButtonHeight});
 }
 
 void Address::Close_Box() { Hide(); }

@@ -11,8 +11,6 @@
 namespace norvane {
 namespace {
 
-constexpr int kLastAddress = 20;
-
 /// Cells lie address by address, field behind field: an address beyond the last of one field is
 /// the first of the next. The cell may lie outside the table.
 std::ptrdiff_t Cell_Of(int address, int field) {

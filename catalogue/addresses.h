@@ -7,6 +7,9 @@ namespace norvane {
 
 struct Module1;
 
+/// Addresses are counted from 0; the forms show them from 1.
+inline constexpr int kLastAddress = 20;
+
 /// Reads the address files of the program's folder into `Address_Table`. A file that can't be
 /// opened ends the reading; a pair that can't be read is passed over.
 void Load_Addresses(Module1& module1);

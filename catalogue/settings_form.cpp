@@ -12,8 +12,8 @@
 namespace norvane {
 namespace {
 
-constexpr double kWidth = 6000;  // twips
-constexpr double kHeight = 3600;
+constexpr double kSettingsWidth = 6000;  // twips
+constexpr double kSettingsHeight = 3600;
 
 std::string With_Point(std::string text) {
   std::replace(text.begin(), text.end(), ',', '.');
@@ -25,7 +25,7 @@ float Number_With_Comma(const TextField& field) { return To_Single(Val(With_Poin
 }  // namespace
 
 Settings::Settings(Module1& module1)
-    : Form(module1.desk, "Settings", kWidth, kHeight), module1_(module1) {
+    : Form(module1.desk, "Settings", kSettingsWidth, kSettingsHeight), module1_(module1) {
   Set_Caption("Settings");
   tabs = &SSTab1;
   for (Field* field : std::initializer_list<Field*>{&Label7, &Label6(0), &Label6(1), &Text2(0),

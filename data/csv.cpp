@@ -35,8 +35,6 @@ std::size_t Behind_Quoted(std::string_view bytes, std::size_t first) {
   return std::string_view::npos;
 }
 
-bool Is_Digit(char c) { return c >= '0' && c <= '9'; }
-
 /// Reads digits with at most one decimal sign: up to 15 of them are a whole number that a double
 /// holds, and so is the power of ten, so that their quotient is the nearest double.
 bool Read_Plain(std::string_view text, char decimal, double& number) {

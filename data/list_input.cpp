@@ -5,12 +5,7 @@
 #include "data/text.h"
 
 namespace norvane {
-namespace {
-
-constexpr std::string_view kBlanks = " \t";
-constexpr std::string_view kLineEnds = "\r\n";
-
-}  // namespace
+namespace {}  // namespace
 
 std::optional<std::string> ListInput::Next_Field() {
   if (At_End()) return std::nullopt;

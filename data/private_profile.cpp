@@ -7,9 +7,6 @@
 namespace norvane {
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
-constexpr std::string_view kLineEnds = "\r\n";
-
 std::string_view Bare(std::string_view text) { return Trim(text, kBlanks); }
 
 bool Same_Name(std::string_view a, std::string_view b) { return Lower(a) == Lower(b); }

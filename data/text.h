@@ -6,6 +6,14 @@
 
 namespace norvane {
 
+/// What separates words within a line, and what ends a line.
+inline constexpr std::string_view kBlanks = " \t";
+inline constexpr std::string_view kLineEnds = "\r\n";
+
+/// Whether it is one of "0" to "9", whatever the locale of the process.
+/// @param c any byte
+constexpr bool Is_Digit(char c) { return c >= '0' && c <= '9'; }
+
 /// `text` with its ASCII letters in lower case.
 /// @param text any bytes
 std::string Lower(std::string_view text);

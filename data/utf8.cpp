@@ -38,6 +38,12 @@ std::size_t Letter(std::string_view bytes) {
 
 }  // namespace
 
+std::string_view Without_Byte_Order_Mark(std::string_view bytes) {
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  while (bytes.starts_with(kMark)) bytes.remove_prefix(kMark.size());
+  return bytes;
+}
+
 bool Is_Utf8(std::string_view bytes) {
   while (!bytes.empty()) {
     const std::size_t length = Letter(bytes);

@@ -5,6 +5,10 @@
 
 namespace norvane {
 
+/// The bytes without the marks of their byte order that a text file may begin with.
+/// @param bytes of a file; they have to outlive the result
+std::string_view Without_Byte_Order_Mark(std::string_view bytes);
+
 /// Whether the bytes are well-formed UTF-8 (RFC 3629), which has neither surrogates nor overlong
 /// forms.
 /// @param bytes of any text

@@ -64,7 +64,7 @@ QByteArray Stop(int offset, const QColor& colour) {
          QByteArray::number(colour.alphaF(), 'g', 3) + "\"/>";
 }
 
-QByteArray Attribute(const char* name, qreal value) {
+QByteArray Svg_Attribute(const char* name, qreal value) {
   return QByteArray(" ") + name + "=\"" + QByteArray::number(value, 'g', 6) + "\"";
 }
 
@@ -95,10 +95,10 @@ QByteArray App_Icon_Svg() {
     const QByteArray light = "light" + QByteArray::number(++number);
     lights += "<linearGradient id=\"" + light + "\" x1=\"0\" y1=\"0\" x2=\"0\" y2=\"1\">" +
               Stop(0, shape.top) + Stop(1, shape.foot) + "</linearGradient>\n";
-    areas += "<rect" + Attribute("x", shape.middle.x() - shape.half) +
-             Attribute("y", shape.middle.y() - shape.half) + Attribute("width", 2 * shape.half) +
-             Attribute("height", 2 * shape.half) + Attribute("rx", shape.corner) + " fill=\"url(#" +
-             light + ")\"/>\n";
+    areas += "<rect" + Svg_Attribute("x", shape.middle.x() - shape.half) +
+             Svg_Attribute("y", shape.middle.y() - shape.half) +
+             Svg_Attribute("width", 2 * shape.half) + Svg_Attribute("height", 2 * shape.half) +
+             Svg_Attribute("rx", shape.corner) + " fill=\"url(#" + light + ")\"/>\n";
   }
   return "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 256 256\">\n<defs>\n" + lights +
          "</defs>\n" + areas + "</svg>\n";

@@ -79,11 +79,11 @@ QWidget* ReportWindow::Make_Actions() {
 void ReportWindow::Open() {
   if (!isVisible()) {
     constexpr QSize kWanted(620, 820);
-    constexpr double kMostOfScreen = 0.9;
+    constexpr double kPartOfScreen = 0.9;
     project_->setText(QString::fromStdString(Kept_Prices(main_.desktop().files()).project));
     project_->setModified(false);
     Show_All();
-    resize(kWanted.boundedTo(screen()->availableSize() * kMostOfScreen));
+    resize(kWanted.boundedTo(screen()->availableSize() * kPartOfScreen));
     project_->setFocus();
     show();
   }

@@ -44,7 +44,7 @@ void Draw_Section(QPainter& painter, const QColor& ink, const QColor& lit, const
 }
 
 void Draw_Slab(QPainter& painter, const QColor& ink) {
-  constexpr QPointF kDepth(6, -6);
+  constexpr QPointF kSlant(6, -6);
   const QRectF foam = Sharp(painter, {1, 10, 18, 8});
   const QRectF plate = Sharp(painter, {foam.left(), foam.bottom(), foam.width(), 4});
   const auto fill = [&painter](const QPolygonF& face, const QColor& colour) {
@@ -52,13 +52,13 @@ void Draw_Slab(QPainter& painter, const QColor& ink) {
     path.addPolygon(face);
     painter.fillPath(path, colour);
   };
-  const auto side = [&kDepth](const QRectF& front) {
-    return QPolygonF{front.topRight(), front.topRight() + kDepth, front.bottomRight() + kDepth,
+  const auto side = [&kSlant](const QRectF& front) {
+    return QPolygonF{front.topRight(), front.topRight() + kSlant, front.bottomRight() + kSlant,
                      front.bottomRight()};
   };
   fill(side(foam), kFoam);
   fill(side(plate), kSteel);
-  fill({foam.topLeft(), foam.topLeft() + kDepth, foam.topRight() + kDepth, foam.topRight()},
+  fill({foam.topLeft(), foam.topLeft() + kSlant, foam.topRight() + kSlant, foam.topRight()},
        Beside(ink, kFoamRim, kFoamRimOnDark));
   painter.fillRect(foam, kFoamCut);
   painter.fillRect(plate, kSteelBright);

@@ -76,7 +76,7 @@ const std::map<std::string, Procedure>& Procedures() {
   return procedures;
 }
 
-Numbers Parse_Numbers(const std::string& list) {
+Numbers Parse_Arguments(const std::string& list) {
   Numbers numbers;
   const char* at = list.data();
   const char* const end = at + list.size();
@@ -99,7 +99,7 @@ ProcedureCall Parse_Call(const std::string& text) {
   if (named == Procedures().end()) throw ScriptError();
   const Procedure& procedure = named->second;
   if (!procedure.numbers) return {&procedure, Unescape(rest), {}};
-  ProcedureCall call{&procedure, "", Parse_Numbers(rest)};
+  ProcedureCall call{&procedure, "", Parse_Arguments(rest)};
   if (call.numbers.size() != procedure.numbers) throw ScriptError();
   return call;
 }

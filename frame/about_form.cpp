@@ -2,6 +2,7 @@
 
 #include "catalogue/address_form.h"
 #include "catalogue/addresses.h"
+#include "frame/dialog_size.h"
 #include "frame/lang_form.h"
 #include "frame/shared_state.h"
 #include "frame/version.h"
@@ -10,13 +11,12 @@
 namespace norvane {
 namespace {
 
-constexpr double kWidth = 5985;  // twips
-constexpr double kHeight = 4515;
 constexpr int kTicksOfTheSplash = 3;
 
 }  // namespace
 
-About::About(Module1& module1) : Form(module1.desk, "About", kWidth, kHeight), module1_(module1) {
+About::About(Module1& module1)
+    : Form(module1.desk, "About", kDialogWidth, kDialogHeight), module1_(module1) {
   has_close_box = false;
   Label1.Set_Font({kDefaultFontName, 16, true, std::nullopt});
   Timer1.On_Tick = [this] { Tick(); };
@@ -24,7 +24,7 @@ About::About(Module1& module1) : Form(module1.desk, "About", kWidth, kHeight), m
 
 void About::Load() {
   Load_Addresses(module1_);
-  Set_Size(kWidth, kHeight);
+  Set_Size(kDialogWidth, kDialogHeight);
 }
 
 void About::Tick() {

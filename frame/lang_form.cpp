@@ -4,6 +4,7 @@
 
 #include "catalogue/address_form.h"
 #include "data/runtime_error.h"
+#include "frame/dialog_size.h"
 #include "frame/language.h"
 #include "frame/settings_file.h"
 #include "frame/shared_state.h"
@@ -13,18 +14,13 @@
 namespace norvane {
 namespace {
 
-constexpr double kWidth = 5985;  // twips
-constexpr double kHeight = 4515;
-constexpr double kButtonWidth = 855;
-constexpr double kButtonHeight = 345;
-constexpr double kExitSize = 225;
-
 constexpr int kMarkOfTheDesign = 7;
 constexpr int kFirstBelowTheEdge = 16;
 
 }  // namespace
 
-Lang::Lang(Module1& module1) : Form(module1.desk, "Lang", kWidth, kHeight), module1_(module1) {
+Lang::Lang(Module1& module1)
+    : Form(module1.desk, "Lang", kDialogWidth, kDialogHeight), module1_(module1) {
   Label1.Set_Caption("Active Language:");
   OK.Set_Caption("OK");
   Label3(0).Set_Caption("3.0.99");
@@ -40,10 +36,10 @@ Lang::Lang(Module1& module1) : Form(module1.desk, "Lang", kWidth, kHeight), modu
 }
 
 void Lang::Load() {
-  Set_Size(kWidth, kHeight);
-  imgExit.Set_Place({Place().width - 280, 25, kExitSize, kExitSize});
-  OK.Set_Place(
-      {Place().width - kButtonWidth - 50, Place().height - 420, kButtonWidth, kButtonHeight});
+  Set_Size(kDialogWidth, kDialogHeight);
+  imgExit.Set_Place({Place().width - 280, 25, kDialogExitSize, kDialogExitSize});
+  OK.Set_Place({Place().width - kDialogButtonWidth - 50, Place().height - 420, kDialogButtonWidth,
+                kDialogButtonHeight});
 }
 
 void Lang::Close_Box() { Hide(); }

@@ -26,8 +26,6 @@ constexpr const char* kSheetSection = "Sheet";
 
 constexpr double kMostAmount = 1e12;
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
 constexpr std::string_view kFreshFile =
     "; Prices of Norvane. Decimals have a point or a comma; a price that is left out counts as "
     "unknown.\r\n"
@@ -35,11 +33,6 @@ constexpr std::string_view kFreshFile =
     "the one that counts.\r\n"
     "; Pipe and Sheet: what a metre or a square metre costs to insulate, by thickness in "
     "millimetres: 13=4.20\r\n";
-
-std::string_view Without_Mark(std::string_view file) {
-  while (file.starts_with(kByteOrderMark)) file.remove_prefix(kByteOrderMark.size());
-  return file;
-}
 
 std::string Value(std::string_view file, const char* section, std::string_view key) {
   return Get_Private_Profile_String(file, section, key).value_or("");
@@ -138,7 +131,7 @@ std::string Amount_Text(double amount, char decimal_separator) {
 }
 
 Prices Read_Prices(std::string_view file) {
-  file = Without_Mark(file);
+  file = Without_Byte_Order_Mark(file);
   Prices prices;
   prices.project = As_Name(Value(file, kProject, kName));
   prices.fuel = Read_Fuel(file);
@@ -152,7 +145,7 @@ Prices Read_Prices(std::string_view file) {
 }
 
 std::string Write_Prices(std::string_view file, const Prices& prices) {
-  file = Without_Mark(file);
+  file = Without_Byte_Order_Mark(file);
   std::string bytes(file.empty() ? kFreshFile : file);
   if (As_Name(Value(bytes, kProject, kName)) != prices.project) {
     bytes = Write_Private_Profile_String(bytes, kProject, kName, prices.project);

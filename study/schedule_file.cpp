@@ -9,8 +9,6 @@
 namespace norvane {
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
 /// Takes rows off the front of the bytes, and counts their lines.
 class RowsOfBytes {
  public:
@@ -85,7 +83,7 @@ ScheduleFile New_Schedule(Question question, char decimal) {
 
 std::variant<ScheduleFile, ScheduleFileProblem> Read_Schedule(std::string_view bytes,
                                                               Question question) {
-  while (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+  bytes = Without_Byte_Order_Mark(bytes);
   ScheduleFile schedule;
   schedule.dialect = Dialect_Of_Header(bytes.substr(0, bytes.find('\n')));
   RowsOfBytes rows(bytes, schedule.dialect.separator);

@@ -13,19 +13,19 @@ namespace {
 constexpr int kRows = 24;
 constexpr int kColumns = 16;
 
-std::string Cell(int column, int row) {
+std::string Table_Cell(int column, int row) {
   return std::string(1, "ABCDEFGHIJKLMNOPQRSTUVWXYZ"[column - 1]) + std::to_string(row);
 }
 
 void Write_Table(Spreadsheet& sheet, const Dew_Table& table) {
   for (int i = 1; i <= kRows; ++i) {
     for (int j = 1; j <= kColumns; ++j) {
-      sheet.Value(Cell(j, i), {static_cast<double>(table(i, j))});
+      sheet.Value(Table_Cell(j, i), {static_cast<double>(table(i, j))});
     }
-    sheet.Value(Cell(kColumns + 1, i), {static_cast<double>(i)});
+    sheet.Value(Table_Cell(kColumns + 1, i), {static_cast<double>(i)});
   }
   for (int j = 1; j <= kColumns; ++j) {
-    sheet.Value(Cell(j, kRows + 1), {static_cast<double>(j)});
+    sheet.Value(Table_Cell(j, kRows + 1), {static_cast<double>(j)});
   }
 }
 

@@ -51,7 +51,7 @@ TEST_F(OwnCommandsTest, Says_Its_Key_And_Follows_The_Language) {
 }
 
 TEST_F(OwnCommandsTest, Behind_A_Dialog_The_Key_Does_Nothing) {
-  watchdog.Expect([this](QWidget& dialog) {
+  watchdog.Expect([](QWidget& dialog) {
     Press(Qt::Key_F9, Qt::ControlModifier);
     dialog.close();
   });

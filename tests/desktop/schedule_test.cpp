@@ -404,11 +404,11 @@ TEST_F(ScheduleTest, Five_Thousand_Rows_Stay_Fluid) {
     model.setData(model.index(i, Column_Of("Medium temperature")), "70");
     QApplication::processEvents();
   });
-  const double move = mean(20, [this](int) {
+  const double move = mean(20, [](int) {
     Press(Qt::Key_Down, Qt::AltModifier);
     QApplication::processEvents();
   });
-  const double undo = mean(20, [this](int) {
+  const double undo = mean(20, [](int) {
     Press(Qt::Key_Z, Qt::ControlModifier);
     QApplication::processEvents();
   });

@@ -74,7 +74,7 @@ class UserOfTheScreen {
   Warmt& warmt_ = program_.Main_Screen();
 };
 
-/// The fields of an object in the order of `kHeader`, with the decimal sign of the locale.
+/// The fields of an object in the order of `kHeaderOfAll`, with the decimal sign of the locale.
 std::string Row(const Object& object, char decimal) {
   const double numbers[] = {static_cast<double>(object.kind),
                             object.medium_C,
@@ -95,7 +95,7 @@ std::string Row(const Object& object, char decimal) {
   return row;
 }
 
-constexpr const char* kHeader =
+constexpr const char* kHeaderOfAll =
     "kind;medium_C;ambient_C;thickness_mm;diameter_mm;lambda_W_mK;alpha_W_m2K;length_m;area_m2;"
     "hours_per_day;days";
 constexpr std::size_t kInputFields = 11;
@@ -104,7 +104,7 @@ constexpr std::size_t kInputFields = 11;
 std::vector<std::string> Answered(const Object& object, char decimal) {
   Options options;
   options.decimal = decimal;
-  std::istringstream row(Calculated(options, kHeader, Row(object, decimal)));
+  std::istringstream row(Calculated(options, kHeaderOfAll, Row(object, decimal)));
   std::vector<std::string> fields;
   for (std::string field; std::getline(row, field, ';');) fields.push_back(field);
   fields.erase(fields.begin(), fields.begin() + kInputFields);

@@ -8,12 +8,10 @@
 #include "../data/error_of.h"
 #include "calc/dew_point.h"
 #include "calc/heat_loss.h"
+#include "constants.h"
 
 namespace norvane {
 namespace {
-
-constexpr Locale kPoint{'.'};
-constexpr Locale kComma{','};
 
 using Texts = std::vector<std::string>;
 
@@ -30,7 +28,7 @@ CondensInput Cold_Water(Kind kind, float D_pipe) {
 }
 
 /// Thickness, conductivity, alpha and surface as the screen shows them.
-Texts Shown(const CondensInput& input, const Locale& locale = kPoint) {
+Texts Texts_Of(const CondensInput& input, const Locale& locale = kPoint) {
   const CondensResult result = Condensation(input, locale);
   return {Format(result.d_mm, "##0.0", locale), Format(result.lambda_T, "0.000", locale),
           Format(result.Alpha, "##0.0", locale), Format(result.T_surf, "##0.0", locale)};
@@ -44,38 +42,38 @@ int Condensation_Error(const CondensInput& input) {
 
 TEST(Condensation, OnASteelPipe) {
   const CondensInput input = Cold_Water(kSteelPipe, 0.01F);
-  EXPECT_EQ(Shown(input), (Texts{"1.7", "0.035", "12.5", "15.8"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"1.7", "0.035", "12.5", "15.8"}));
   EXPECT_EQ(Passes(input), 18);
 }
 
 TEST(Condensation, OnACopperTubeHasTheSmallerAlpha) {
   const CondensInput input = Cold_Water(kCopperTube, 0.021F);
-  EXPECT_EQ(Shown(input), (Texts{"2.3", "0.035", "10.0", "15.9"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"2.3", "0.035", "10.0", "15.9"}));
   EXPECT_EQ(Passes(input), 24);
 }
 
 TEST(Condensation, OnAMetricPipeIsThatOnACopperTube) {
   const CondensInput input = Cold_Water(kMetricPipe, 0.021F);
-  EXPECT_EQ(Shown(input), (Texts{"2.3", "0.035", "10.0", "15.9"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"2.3", "0.035", "10.0", "15.9"}));
   EXPECT_EQ(Passes(input), 24);
 }
 
 TEST(Condensation, OnASheetHasASurfaceCloseToTheAir) {
   const CondensInput input = Cold_Water(kSheet, 0);
-  EXPECT_EQ(Shown(input), (Texts{"2.0", "0.035", "12.5", "24.0"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"2.0", "0.035", "12.5", "24.0"}));
   EXPECT_EQ(Text_Of_Single(Condensation(input, kPoint).d_mm, kPoint).substr(0, 5), "1.955");
 }
 
 TEST(Condensation, OnASheetNeedsNoSearch) { EXPECT_EQ(Passes(Cold_Water(kSheet, 0)), 0); }
 
 TEST(Condensation, OnASheetReadsNoDiameter) {
-  EXPECT_EQ(Shown(Cold_Water(kSheet, -1)), Shown(Cold_Water(kSheet, 0)));
+  EXPECT_EQ(Texts_Of(Cold_Water(kSheet, -1)), Texts_Of(Cold_Water(kSheet, 0)));
 }
 
 TEST(Condensation, OnAFreezingPipeTakesAHundredPasses) {
   CondensInput input = Cold_Water(kSteelPipe, 0.06F);
   input.T_med = -20;
-  EXPECT_EQ(Shown(input), (Texts{"9.9", "0.032", "12.5", "15.9"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"9.9", "0.032", "12.5", "15.9"}));
   EXPECT_EQ(Passes(input), 100);
 }
 
@@ -84,17 +82,18 @@ TEST(Condensation, OnTheThickestCoatTakesAPassATenthOfAMillimetre) {
   input.T_med = -50;
   input.T_amb = 40;
   input.humidity = 95;
-  EXPECT_EQ(Shown(input).front(), "188.3");
+  EXPECT_EQ(Texts_Of(input).front(), "188.3");
   EXPECT_EQ(Passes(input), 1884);
 }
 
 TEST(Condensation, IsShownInTheLocalesDecimals) {
-  EXPECT_EQ(Shown(Cold_Water(kSteelPipe, 0.01F), kComma), (Texts{"1,7", "0,035", "12,5", "15,8"}));
+  EXPECT_EQ(Texts_Of(Cold_Water(kSteelPipe, 0.01F), kComma),
+            (Texts{"1,7", "0,035", "12,5", "15,8"}));
 }
 
 TEST(Condensation, TakesAnEmptyDiameterForTenMetres) {
   const CondensInput input = Cold_Water(kSteelPipe, 0);
-  EXPECT_EQ(Shown(input), (Texts{"2.0", "0.035", "12.5", "15.9"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"2.0", "0.035", "12.5", "15.9"}));
   EXPECT_EQ(Passes(input), 21);
 }
 
@@ -110,14 +109,14 @@ TEST(Condensation, CountsInTheUnroundedMediumTemperature) {
 TEST(Condensation, OfABetterConductorNeedsMore) {
   CondensInput input = Cold_Water(kSteelPipe, 0.01F);
   input.Lambda = 0.034F;
-  EXPECT_EQ(Shown(input), (Texts{"1.8", "0.037", "12.5", "15.8"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"1.8", "0.037", "12.5", "15.8"}));
   EXPECT_EQ(Passes(input), 19);
 }
 
 TEST(Condensation, TakesTheTypedAlpha) {
   CondensInput input = Cold_Water(kSteelPipe, 0.01F);
   input.alpha_text = "5";
-  EXPECT_EQ(Shown(input), (Texts{"3.8", "0.035", "5.0", "15.9"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"3.8", "0.035", "5.0", "15.9"}));
   EXPECT_EQ(Passes(input), 39);
 }
 
@@ -145,21 +144,21 @@ TEST(Condensation, FallsBackToTheDefaultAlphaOfTheKind) {
 TEST(CondensationNeedsNoThickness, ForAMediumAboveTheDewPoint) {
   CondensInput pipe = Cold_Water(kSteelPipe, 0.01F);
   pipe.T_med = 20;
-  EXPECT_EQ(Shown(pipe), (Texts{"0.0", "0.035", "12.5", "20.0"}));
+  EXPECT_EQ(Texts_Of(pipe), (Texts{"0.0", "0.035", "12.5", "20.0"}));
   EXPECT_EQ(Passes(pipe), 1);
   CondensInput sheet = Cold_Water(kSheet, 0);
   sheet.T_med = 20;
-  EXPECT_EQ(Shown(sheet), (Texts{"0.0", "0.035", "12.5", "20.0"}));
+  EXPECT_EQ(Texts_Of(sheet), (Texts{"0.0", "0.035", "12.5", "20.0"}));
   EXPECT_EQ(Condensation(sheet, kPoint).d_mm, 0.0F);
 }
 
 TEST(CondensationNeedsNoThickness, ForAMediumExactlyAtTheDewPoint) {
   CondensInput input = Cold_Water(kSteelPipe, 0.01F);
   input.T_med = Trt_DauwPunt(24, 60);
-  EXPECT_EQ(Shown(input).front(), "0.0");
+  EXPECT_EQ(Texts_Of(input).front(), "0.0");
   EXPECT_EQ(Passes(input), 1);
   input.Sel_Size = kSheet;
-  EXPECT_EQ(Shown(input).front(), "0.0");
+  EXPECT_EQ(Texts_Of(input).front(), "0.0");
 }
 
 TEST(Condensation, EndsItsSearchWhereBothSidesAreEqual) {
@@ -175,7 +174,7 @@ TEST(CondensationNeedsNoThickness, ForTheEmptyCellOfTheTable) {
     input.T_med = -30;
     input.T_amb = -20;
     input.humidity = 30;
-    EXPECT_EQ(Shown(input), (Texts{"0.0", "0.028", "12.5", "-30.0"})) << kind;
+    EXPECT_EQ(Texts_Of(input), (Texts{"0.0", "0.028", "12.5", "-30.0"})) << kind;
     EXPECT_EQ(Passes(input), kind == kSheet ? 0 : 1) << kind;
   }
 }
@@ -184,7 +183,7 @@ TEST(CondensationNeedsNoThickness, ForATemperatureOutsideTheTable) {
   for (const Kind kind : {kSteelPipe, kSheet}) {
     CondensInput input = Cold_Water(kind, 0.01F);
     input.T_amb = 25;
-    EXPECT_EQ(Shown(input), (Texts{"0.0", "0.035", "12.5", "10.0"})) << kind;
+    EXPECT_EQ(Texts_Of(input), (Texts{"0.0", "0.035", "12.5", "10.0"})) << kind;
   }
 }
 
@@ -192,7 +191,7 @@ TEST(CondensationNeedsNoThickness, ForAHumidityOutsideTheTable) {
   for (const float humidity : {60.5F, 97.0F, 100.0F, 0.0F, -60.0F}) {
     CondensInput input = Cold_Water(kSteelPipe, 0.01F);
     input.humidity = humidity;
-    EXPECT_EQ(Shown(input).front(), "0.0") << humidity;
+    EXPECT_EQ(Texts_Of(input).front(), "0.0") << humidity;
     EXPECT_EQ(Passes(input), 1) << humidity;
   }
 }

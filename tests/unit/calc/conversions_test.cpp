@@ -6,18 +6,13 @@
 #include <climits>
 #include <cmath>
 #include <cstdlib>
-#include <limits>
 #include <string>
 
 #include "../data/error_of.h"
+#include "constants.h"
 
 namespace norvane {
 namespace {
-
-constexpr Locale kPoint{'.'};
-constexpr Locale kComma{','};
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
 TEST(Locale, GroupsWithTheSignThatIsNotItsDecimalSeparator) {
   EXPECT_EQ(kPoint.Group_Separator(), ',');

@@ -6,12 +6,10 @@
 #include <vector>
 
 #include "../data/error_of.h"
+#include "constants.h"
 
 namespace norvane {
 namespace {
-
-constexpr Locale kPoint{'.'};
-constexpr Locale kComma{','};
 
 using Texts = std::vector<std::string>;
 
@@ -53,7 +51,7 @@ HeatLossInput Thin_Tube(std::int16_t T_med, std::int16_t T_amb) {
 }
 
 /// What the screen shows of a result; without savings, the first five texts alone.
-Texts Shown(const HeatLossInput& input, const Locale& locale = kPoint) {
+Texts Texts_Of(const HeatLossInput& input, const Locale& locale = kPoint) {
   const HeatLossResult result = Heat_Loss(input, locale);
   Texts texts{Format(result.lambda_T, "0.000", locale), Format(result.Alpha, "##0.0", locale),
               Format(result.T_surf, "##0.0", locale), Format(result.Q_bare, "####0.0", locale),
@@ -73,20 +71,20 @@ int Heat_Loss_Error(const HeatLossInput& input) {
 }
 
 TEST(HeatLoss, OfASteelPipe) {
-  EXPECT_EQ(Shown(Steel_Pipe()), (Texts{"0.039", "12.5", "24.2", "53.6", "17.0", "68%", "36.58",
-                                        "2.72", "2.16", "26.34"}));
+  EXPECT_EQ(Texts_Of(Steel_Pipe()), (Texts{"0.039", "12.5", "24.2", "53.6", "17.0", "68%", "36.58",
+                                           "2.72", "2.16", "26.34"}));
 }
 
 TEST(HeatLoss, OfASheet) {
-  EXPECT_EQ(Shown(Sheet_50_Mm()), (Texts{"0.039", "12.5", "18.8", "812.5", "47.9", "94%", "764.63",
-                                         "56.82", "45.19", "550.54"}));
+  EXPECT_EQ(Texts_Of(Sheet_50_Mm()), (Texts{"0.039", "12.5", "18.8", "812.5", "47.9", "94%",
+                                            "764.63", "56.82", "45.19", "550.54"}));
 }
 
 TEST(HeatLoss, OfACopperTubeHasTheSmallerAlpha) {
   HeatLossInput input = Steel_Pipe();
   input.Sel_Size = kCopperTube;
-  EXPECT_EQ(Shown(input), (Texts{"0.039", "10.0", "26.1", "42.9", "16.4", "62%", "26.44", "1.97",
-                                 "1.56", "19.04"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"0.039", "10.0", "26.1", "42.9", "16.4", "62%", "26.44", "1.97",
+                                    "1.56", "19.04"}));
 }
 
 TEST(HeatLoss, OfAMetricPipeIsThatOfACopperTube) {
@@ -94,19 +92,19 @@ TEST(HeatLoss, OfAMetricPipeIsThatOfACopperTube) {
   tube.Sel_Size = kCopperTube;
   HeatLossInput metric = tube;
   metric.Sel_Size = kMetricPipe;
-  EXPECT_EQ(Shown(metric), Shown(tube));
+  EXPECT_EQ(Texts_Of(metric), Texts_Of(tube));
 }
 
 TEST(HeatLoss, IsShownInTheLocalesDecimals) {
-  EXPECT_EQ(Shown(Steel_Pipe(), kComma), (Texts{"0,039", "12,5", "24,2", "53,6", "17,0", "68%",
-                                                "36,58", "2,72", "2,16", "26,34"}));
+  EXPECT_EQ(Texts_Of(Steel_Pipe(), kComma), (Texts{"0,039", "12,5", "24,2", "53,6", "17,0", "68%",
+                                                   "36,58", "2,72", "2,16", "26,34"}));
 }
 
 TEST(HeatLoss, WithoutInsulationSavesNothing) {
   HeatLossInput input = Steel_Pipe();
   input.d_ins = 0;
   input.D_pipe = 0.01F;
-  EXPECT_EQ(Shown(input),
+  EXPECT_EQ(Texts_Of(input),
             (Texts{"0.039", "12.5", "80.0", "25.5", "25.5", "0%", "0.00", "0.00", "0.00", "0.00"}));
   const HeatLossResult result = Heat_Loss(input, kPoint);
   EXPECT_EQ(result.T_surf, 80.0F);
@@ -116,15 +114,15 @@ TEST(HeatLoss, WithoutInsulationSavesNothing) {
 TEST(HeatLoss, OfAGreenProduct) {
   HeatLossInput input = Steel_Pipe();
   input.Lambda = 0.034F;
-  EXPECT_EQ(Shown(input), (Texts{"0.041", "12.5", "24.6", "53.6", "17.8", "67%", "35.84", "2.66",
-                                 "2.12", "25.81"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"0.041", "12.5", "24.6", "53.6", "17.8", "67%", "35.84", "2.66",
+                                    "2.12", "25.81"}));
 }
 
 TEST(HeatLoss, BetweenEqualTemperaturesIsZeroAndSavesZeroWithDecimals) {
   HeatLossInput input = Steel_Pipe();
   input.T_med = input.T_amb = 20;
   input.raw_T_med = input.raw_T_amb = 20;
-  EXPECT_EQ(Shown(input),
+  EXPECT_EQ(Texts_Of(input),
             (Texts{"0.035", "12.5", "20.0", "0.0", "0.0", "0%", "0.00", "0.00", "0.00", "0.00"}));
 }
 
@@ -132,7 +130,7 @@ TEST(HeatLoss, CountsInTheRoundedTemperatures) {
   HeatLossInput input = Steel_Pipe();
   input.raw_T_med = 80.4;
   input.raw_T_amb = 14.6;
-  EXPECT_EQ(Shown(input), Shown(Steel_Pipe()));
+  EXPECT_EQ(Texts_Of(input), Texts_Of(Steel_Pipe()));
 }
 
 TEST(HeatLoss, BetweenTemperaturesThatRoundToTheSameIsZero) {
@@ -150,17 +148,17 @@ TEST(HeatLoss, OfAColdMediumIsNegativeAndItsSavingsArePositive) {
   input.T_amb = 20;
   input.raw_T_med = 6;
   input.raw_T_amb = 20;
-  EXPECT_EQ(Shown(input), (Texts{"0.034", "12.5", "18.2", "-11.5", "-3.2", "72%", "8.30", "0.62",
-                                 "0.49", "5.98"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"0.034", "12.5", "18.2", "-11.5", "-3.2", "72%", "8.30", "0.62",
+                                    "0.49", "5.98"}));
 }
 
 TEST(HeatLoss, OfAHotMediumHasNoSavingsWhereTheInsulatedTubeLosesMore) {
-  EXPECT_EQ(Shown(Thin_Tube(80, 15)), (Texts{"0.039", "10.0", "65.2", "12.3", "12.6"}));
+  EXPECT_EQ(Texts_Of(Thin_Tube(80, 15)), (Texts{"0.039", "10.0", "65.2", "12.3", "12.6"}));
 }
 
 TEST(HeatLoss, OfAColdMediumHasSavingsEvenWhereTheInsulatedTubeGainsMore) {
-  EXPECT_EQ(Shown(Thin_Tube(15, 80)), (Texts{"0.039", "10.0", "29.8", "-12.3", "-12.6", "3%",
-                                             "0.37", "0.03", "0.02", "0.27"}));
+  EXPECT_EQ(Texts_Of(Thin_Tube(15, 80)), (Texts{"0.039", "10.0", "29.8", "-12.3", "-12.6", "3%",
+                                                "0.37", "0.03", "0.02", "0.27"}));
 }
 
 TEST(HeatLoss, AsksTheUnroundedTemperaturesWhichSideIsWarmer) {
@@ -174,14 +172,14 @@ TEST(HeatLoss, AsksTheUnroundedTemperaturesWhichSideIsWarmer) {
 TEST(HeatLoss, TakesAnEmptyDiameterForTenMetres) {
   HeatLossInput input = Steel_Pipe();
   input.D_pipe = 0;
-  EXPECT_EQ(Shown(input), (Texts{"0.039", "12.5", "27.6", "25524.7", "4960.7", "81%", "20563.98",
-                                 "1528.15", "1215.27", "14806.07"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"0.039", "12.5", "27.6", "25524.7", "4960.7", "81%", "20563.98",
+                                    "1528.15", "1215.27", "14806.07"}));
 }
 
 TEST(HeatLoss, OfASheetReadsNoDiameter) {
   HeatLossInput input = Sheet_50_Mm();
   input.D_pipe = -1;
-  EXPECT_EQ(Shown(input), Shown(Sheet_50_Mm()));
+  EXPECT_EQ(Texts_Of(input), Texts_Of(Sheet_50_Mm()));
 }
 
 TEST(HeatLoss, SavesOverAllHoursDaysAndMetres) {
@@ -194,8 +192,8 @@ TEST(HeatLoss, SavesOverAllHoursDaysAndMetres) {
   input.D_pipe = 0.915F;
   input.Days = 365;
   input.Mtrs = 10000;
-  EXPECT_EQ(Shown(input), (Texts{"0.036", "12.5", "-55.5", "6287.9", "195.8", "97%", "6092.12",
-                                 "55080552.34", "43803229.95", "533669300.00"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"0.036", "12.5", "-55.5", "6287.9", "195.8", "97%", "6092.12",
+                                    "55080552.34", "43803229.95", "533669300.00"}));
 }
 
 TEST(HeatLoss, DiffersByTheMetreWhateverTheLength) {
@@ -208,8 +206,8 @@ TEST(HeatLoss, DiffersByTheMetreWhateverTheLength) {
 TEST(HeatLoss, SavesNegativeAmountsOverANegativeLength) {
   HeatLossInput input = Steel_Pipe();
   input.Mtrs = -100;
-  EXPECT_EQ(Shown(input), (Texts{"0.039", "12.5", "24.2", "53.6", "17.0", "68%", "36.58", "-271.85",
-                                 "-216.19", "-2633.91"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"0.039", "12.5", "24.2", "53.6", "17.0", "68%", "36.58",
+                                    "-271.85", "-216.19", "-2633.91"}));
 }
 
 TEST(HeatLoss, SavesNothingInNoTimeOrOverNoLength) {
@@ -229,8 +227,8 @@ TEST(HeatLoss, SavesNothingInNoTimeOrOverNoLength) {
 TEST(EffectiveAlpha, IsTheTypedNumber) {
   HeatLossInput input = Steel_Pipe();
   input.alpha_text = "8";
-  EXPECT_EQ(Shown(input), (Texts{"0.039", "8.0", "28.3", "34.3", "15.8", "54%", "18.54", "1.38",
-                                 "1.10", "13.35"}));
+  EXPECT_EQ(Texts_Of(input), (Texts{"0.039", "8.0", "28.3", "34.3", "15.8", "54%", "18.54", "1.38",
+                                    "1.10", "13.35"}));
 }
 
 TEST(EffectiveAlpha, IsReadWithTheLocalesDecimalSeparator) {

@@ -1,18 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <string>
 
 #include "../data/error_of.h"
 #include "calc/conversions.h"
+#include "constants.h"
 
 namespace norvane {
 namespace {
-
-constexpr Locale kPoint{'.'};
-constexpr Locale kComma{','};
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 /// `head`, a megabyte of `sign`, `tail`.
 std::string Huge(std::string_view head, char sign, std::string_view tail = "") {

@@ -12,14 +12,10 @@
 
 #include "../data/error_of.h"
 #include "calc/conversions.h"
+#include "constants.h"
 
 namespace norvane {
 namespace {
-
-constexpr Locale kPoint{'.'};
-constexpr Locale kComma{','};
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
 TEST(FormatWithoutMask, WritesWholeNumbersBare) {
   EXPECT_EQ(Format(0.0, kPoint), "0");

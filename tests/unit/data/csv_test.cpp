@@ -9,7 +9,7 @@ namespace {
 
 using Fields = std::vector<std::string_view>;
 
-Fields Split(std::string_view row, char separator = ',') {
+Fields Fields_Of_Row(std::string_view row, char separator = ',') {
   Fields fields;
   Split_Row(row, separator, fields);
   return fields;
@@ -32,15 +32,15 @@ TEST(CsvRow, WithAnOpenQuoteDoesNotEnd) {
 
 TEST(CsvRow, TakesAQuoteInsideAFieldForALetter) {
   EXPECT_EQ(Length_Of_Row("2\" pipe,b\nc", ','), 10U);
-  EXPECT_EQ(Split("2\" pipe,b"), (Fields{"2\" pipe", "b"}));
+  EXPECT_EQ(Fields_Of_Row("2\" pipe,b"), (Fields{"2\" pipe", "b"}));
 }
 
 TEST(CsvRow, IsSplitAtTheSeparatorsOutsideQuotes) {
-  EXPECT_EQ(Split("a,,c"), (Fields{"a", "", "c"}));
-  EXPECT_EQ(Split("\"a,b\",c"), (Fields{"\"a,b\"", "c"}));
-  EXPECT_EQ(Split("a,b;c", ';'), (Fields{"a,b", "c"}));
-  EXPECT_EQ(Split(""), (Fields{""}));
-  EXPECT_EQ(Split("a,"), (Fields{"a", ""}));
+  EXPECT_EQ(Fields_Of_Row("a,,c"), (Fields{"a", "", "c"}));
+  EXPECT_EQ(Fields_Of_Row("\"a,b\",c"), (Fields{"\"a,b\"", "c"}));
+  EXPECT_EQ(Fields_Of_Row("a,b;c", ';'), (Fields{"a,b", "c"}));
+  EXPECT_EQ(Fields_Of_Row(""), (Fields{""}));
+  EXPECT_EQ(Fields_Of_Row("a,"), (Fields{"a", ""}));
 }
 
 TEST(CsvField, StandsForItsTextWithoutTheQuotes) {

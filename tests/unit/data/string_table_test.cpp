@@ -12,13 +12,13 @@
 namespace norvane {
 namespace {
 
-using Texts = std::map<int, std::string>;
+using TextsByNumber = std::map<int, std::string>;
 
-void Expect_Texts(const Texts& texts) {
+void Expect_Texts(const TextsByNumber& texts) {
   for (const auto& [id, text] : texts) EXPECT_EQ(String_Table(id), text) << id;
 }
 
-const Texts kCatalogue = {
+const TextsByNumber kCatalogue = {
     {200, "2"},
     {201, "5"},
     {202, "6"},
@@ -48,11 +48,11 @@ const Texts kCatalogue = {
     {2061, "0.038"},
 };
 
-const Texts kUnread = {{101, "2"}, {110, "3.0.0"}, {300, "1"}};
+const TextsByNumber kUnread = {{101, "2"}, {110, "3.0.0"}, {300, "1"}};
 
-const Texts kDewDimensions = {{401, "24"}, {402, "16"}};
+const TextsByNumber kDewDimensions = {{401, "24"}, {402, "16"}};
 
-const Texts kDewHeadings = {
+const TextsByNumber kDewHeadings = {
     {10000, "Dauwpunttabel"},
     {10001, "Omgevingstemperatuur"},
     {10002, "Max. waterdampconcentratie"},
@@ -72,8 +72,8 @@ const Texts kDewHeadings = {
     {10016, "95%"},
 };
 
-Texts Dew_Cells() {
-  Texts cells;
+TextsByNumber Dew_Cells() {
+  TextsByNumber cells;
   int row_id = 10100;
   for (const DewRow& row : Dew_Figures()) {
     int id = row_id;
@@ -92,7 +92,7 @@ TEST(StringTable, HoldsTheDimensionsOfTheDewPointTable) { Expect_Texts(kDewDimen
 TEST(StringTable, HoldsTheHeadingsOfTheDewPointTable) { Expect_Texts(kDewHeadings); }
 
 TEST(StringTable, HoldsTheCellsOfTheDewPointTableAsTheyAreWritten) {
-  const Texts cells = Dew_Cells();
+  const TextsByNumber cells = Dew_Cells();
   ASSERT_EQ(cells.size(), 24U * 16U);
   ASSERT_EQ(cells.at(10103), "-");
   ASSERT_EQ(cells.at(12416), "1.0");
@@ -100,8 +100,8 @@ TEST(StringTable, HoldsTheCellsOfTheDewPointTableAsTheyAreWritten) {
 }
 
 TEST(StringTable, HoldsNothingElse) {
-  Texts all = Dew_Cells();
-  for (const Texts& texts : {kCatalogue, kUnread, kDewDimensions, kDewHeadings}) {
+  TextsByNumber all = Dew_Cells();
+  for (const TextsByNumber& texts : {kCatalogue, kUnread, kDewDimensions, kDewHeadings}) {
     all.insert(texts.begin(), texts.end());
   }
   for (int id = -1000; id <= 40000; ++id) {

@@ -9,7 +9,7 @@ namespace norvane {
 namespace {
 
 /// A name put together again from its parts.
-std::string Parsed(const std::string& name) {
+std::string Parts_Of(const std::string& name) {
   std::string text;
   for (const NamePart& part : Parse_Name(name)) {
     text += "[" + part.word;
@@ -20,19 +20,19 @@ std::string Parsed(const std::string& name) {
 }
 
 TEST(AName, IsTakenApartAtItsPoints) {
-  EXPECT_EQ(Parsed("Lambda"), "[Lambda]");
-  EXPECT_EQ(Parsed("Warmt.Caption"), "[Warmt][Caption]");
-  EXPECT_EQ(Parsed("Label1(2).Font.Size"), "[Label1 2][Font][Size]");
-  EXPECT_EQ(Parsed("Total.grdResult.Cell(1,5)"), "[Total][grdResult][Cell 1 5]");
+  EXPECT_EQ(Parts_Of("Lambda"), "[Lambda]");
+  EXPECT_EQ(Parts_Of("Warmt.Caption"), "[Warmt][Caption]");
+  EXPECT_EQ(Parts_Of("Label1(2).Font.Size"), "[Label1 2][Font][Size]");
+  EXPECT_EQ(Parts_Of("Total.grdResult.Cell(1,5)"), "[Total][grdResult][Cell 1 5]");
 }
 
 TEST(AName, HasLettersDigitsAndUnderscores) {
-  EXPECT_EQ(Parsed("Total_Sum1"), "[Total_Sum1]");
-  EXPECT_EQ(Parsed("Lang_Text(0,150)"), "[Lang_Text 0 150]");
+  EXPECT_EQ(Parts_Of("Total_Sum1"), "[Total_Sum1]");
+  EXPECT_EQ(Parts_Of("Lang_Text(0,150)"), "[Lang_Text 0 150]");
 }
 
 TEST(AName, MayCarryANegativeNumber) {
-  EXPECT_EQ(Parsed("Address_Table(1,-9)"), "[Address_Table 1 -9]");
+  EXPECT_EQ(Parts_Of("Address_Table(1,-9)"), "[Address_Table 1 -9]");
 }
 
 TEST(AName, IsNotUnderstoodInAnyOtherForm) {

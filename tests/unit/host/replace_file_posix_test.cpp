@@ -10,6 +10,7 @@
 
 #include "../support/child_process.h"
 #include "../support/test_folder.h"
+#include "append_new.h"
 #include "host/failed_writes.h"
 #include "host/replace_file.h"
 
@@ -18,8 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
-
-std::string Append_New(const std::string& bytes) { return bytes + "new"; }
 
 class ReplacedFileOnPosix : public testing::Test {
  protected:

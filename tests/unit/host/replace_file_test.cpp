@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "../support/test_folder.h"
+#include "append_new.h"
 #include "host/plain_file.h"
 
 namespace norvane {
@@ -15,8 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
-
-std::string Append_New(const std::string& bytes) { return bytes + "new"; }
 
 class ReplacedFile : public testing::Test {
  protected:

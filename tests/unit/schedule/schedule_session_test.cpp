@@ -7,13 +7,13 @@
 namespace norvane {
 namespace {
 
-constexpr const char* kSchedule =
+constexpr const char* kSavedSchedule =
     "kind;medium_C;ambient_C;thickness_mm;diameter_mm\r\nsteel;80,5;15;13;21\r\n";
 
 /// Sessions of a user whose folder holds the file a.csv.
 class ScheduleSessions : public testing::Test {
  protected:
-  ScheduleSessions() { folder.Write("a.csv", kSchedule); }
+  ScheduleSessions() { folder.Write("a.csv", kSavedSchedule); }
 
   /// The file is opened and changed, and never saved.
   void Leave_A_Change() {
@@ -78,7 +78,7 @@ TEST_F(ScheduleSessions, SavedElsewhereItBelongsThere) {
   EXPECT_EQ(session.Save_As(folder / "b.csv"), Saving::kDone);
   session.Document().Delete(0, 1);
   EXPECT_EQ(session.Save(), Saving::kDone);
-  EXPECT_EQ(folder.Bytes_Of("a.csv"), kSchedule);
+  EXPECT_EQ(folder.Bytes_Of("a.csv"), kSavedSchedule);
   EXPECT_EQ(folder.Bytes_Of("b.csv"), "kind;medium_C;ambient_C;thickness_mm;diameter_mm\r\n");
 }
 

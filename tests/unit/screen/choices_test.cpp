@@ -42,7 +42,7 @@ class WhatFieldsCanBeGiven : public testing::Test {
   Warmt& warmt_ = program_.Main_Screen();
 };
 
-std::vector<std::string> Texts(const Choices& choices) {
+std::vector<std::string> Texts_Of(const Choices& choices) {
   std::vector<std::string> texts;
   for (const Choice& entry : choices.entries) texts.push_back(entry.text);
   return texts;
@@ -82,7 +82,8 @@ TEST_F(WhatFieldsCanBeGiven, HasNoDiameterOfASheet) {
 
 TEST_F(WhatFieldsCanBeGiven, HasTheThicknessStepsAndNoInsulationBeforeThem) {
   const Choices steel = Of(kThickness);
-  EXPECT_EQ(Texts(steel), (std::vector<std::string>{"0", "6", "9", "13", "15", "20", "25", "30"}));
+  EXPECT_EQ(Texts_Of(steel),
+            (std::vector<std::string>{"0", "6", "9", "13", "15", "20", "25", "30"}));
   EXPECT_EQ(steel.entries[3].inch, "1/2");
   EXPECT_EQ(Of(kThickness, kSheet).entries[3].inch, "");
 }

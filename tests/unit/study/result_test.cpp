@@ -14,7 +14,7 @@ namespace norvane {
 namespace {
 
 /// The texts of a result, or its reason alone.
-std::vector<std::string> Texts(const Object& object) {
+std::vector<std::string> Texts_Of(const Object& object) {
   const auto result = Heat_Loss_Of(object);
   if (const auto* reason = std::get_if<Reason>(&result)) return {Words(*reason)};
   const ShownHeatLoss shown = Shown_Heat_Loss(std::get<HeatLossResult>(result));
@@ -26,55 +26,55 @@ std::vector<std::string> Texts(const Object& object) {
   return texts;
 }
 
-std::string Reason_Of(const Object& object) { return Texts(object).front(); }
+std::string Reason_Of(const Object& object) { return Texts_Of(object).front(); }
 
 using TextList = std::vector<std::string>;
 
 TEST(HeatLossOfAnObject, IsThatOfTheScreen) {
-  EXPECT_EQ(Texts(Steel_Pipe()), (TextList{"0.039", "12.5", "24.2", "53.6", "17.0", "68", "36.58",
-                                           "2.72", "2.16", "26.34"}));
-  EXPECT_EQ(Texts(Sheet()), (TextList{"0.039", "12.5", "18.8", "812.5", "47.9", "94", "764.63",
-                                      "56.82", "45.19", "550.54"}));
+  EXPECT_EQ(Texts_Of(Steel_Pipe()), (TextList{"0.039", "12.5", "24.2", "53.6", "17.0", "68",
+                                              "36.58", "2.72", "2.16", "26.34"}));
+  EXPECT_EQ(Texts_Of(Sheet()), (TextList{"0.039", "12.5", "18.8", "812.5", "47.9", "94", "764.63",
+                                         "56.82", "45.19", "550.54"}));
 }
 
 TEST(HeatLossOfAnObject, HasNoSavingsWhereTheInsulatedOneLosesMore) {
-  EXPECT_EQ(Texts(Thin_Tube()).size(), kFirstSaving);
+  EXPECT_EQ(Texts_Of(Thin_Tube()).size(), kFirstSaving);
 }
 
 TEST(HeatLossOfAnObject, OfAColdMediumKeepsItsSavings) {
   Object object = Thin_Tube();
   object.medium_C = 5;
-  EXPECT_EQ(Texts(object).size(), kHeatLossColumns.size());
+  EXPECT_EQ(Texts_Of(object).size(), kHeatLossColumns.size());
 }
 
 TEST(HeatLossOfAnObject, CountsDecimalsWhereTheScreenRounds) {
   Object object = Steel_Pipe();
   object.medium_C = 80.4;
-  EXPECT_GT(Val(Texts(object)[3]), 53.6);
+  EXPECT_GT(Val(Texts_Of(object)[3]), 53.6);
   object = Steel_Pipe();
   object.length_m = 2.5;
-  EXPECT_EQ(Texts(object)[9], "65.85");  // 36.582 W for 720 hours and 2.5 m
+  EXPECT_EQ(Texts_Of(object)[9], "65.85");  // 36.582 W for 720 hours and 2.5 m
 }
 
 TEST(HeatLossOfAnObject, TakesTheUsualAlphaForNoneAndForNought) {
   for (const double alpha : {kNotGiven, 0.0, -3.0}) {
     Object object = Steel_Pipe();
     object.alpha_W_m2K = alpha;
-    EXPECT_EQ(Texts(object)[1], "12.5");
+    EXPECT_EQ(Texts_Of(object)[1], "12.5");
     object.kind = kCopperTube;
-    EXPECT_EQ(Texts(object)[1], "10.0");
+    EXPECT_EQ(Texts_Of(object)[1], "10.0");
   }
 }
 
 TEST(HeatLossOfAnObject, TakesTheLengthOfAPipeAndTheAreaOfASheet) {
   Object object = Steel_Pipe();
   object.area_m2 = 7;
-  EXPECT_EQ(Texts(object)[9], "26.34");
+  EXPECT_EQ(Texts_Of(object)[9], "26.34");
   object = Sheet();
   object.length_m = 7;
-  EXPECT_EQ(Texts(object)[9], "550.54");
+  EXPECT_EQ(Texts_Of(object)[9], "550.54");
   object.area_m2 = 2;
-  EXPECT_EQ(Texts(object)[9], "1101.07");
+  EXPECT_EQ(Texts_Of(object)[9], "1101.07");
 }
 
 TEST(HeatLossOfAnObject, HasItsReasonOutsideTheFieldsLimits) {
@@ -96,7 +96,7 @@ TEST(HeatLossOfAnObject, HasItsReasonOutsideTheFieldsLimits) {
     Object object = Steel_Pipe();
     for (const double good : {one.least, one.most}) {
       object.*one.field = good;
-      EXPECT_GT(Texts(object).size(), 1U) << one.name << Reason_Of(object);
+      EXPECT_GT(Texts_Of(object).size(), 1U) << one.name << Reason_Of(object);
     }
     object.*one.field = one.least - one.step;
     EXPECT_TRUE(Reason_Of(object).starts_with(std::string(one.name) + " is below")) << one.name;
@@ -109,7 +109,7 @@ TEST(HeatLossOfAnObject, HasItsReasonBeyondTheLastSizeOfItsFamily) {
   Object object = Steel_Pipe();
   object.kind = kMetricPipe;
   object.diameter_mm = 108;
-  EXPECT_GT(Texts(object).size(), 1U);
+  EXPECT_GT(Texts_Of(object).size(), 1U);
   object.diameter_mm = 109;
   EXPECT_EQ(Reason_Of(object), "diameter_mm is above 108");
 }
@@ -120,7 +120,7 @@ TEST(HeatLossOfAnObject, HasItsReasonWithoutANumberThatItNeeds) {
   object.diameter_mm = kNotGiven;
   EXPECT_EQ(Reason_Of(object), "diameter_mm is missing");
   object.kind = kSheet;
-  EXPECT_GT(Texts(object).size(), 1U);
+  EXPECT_GT(Texts_Of(object).size(), 1U);
   object.kind = 4;
   EXPECT_EQ(Reason_Of(object), "kind is none of steel copper metric sheet");
 }
@@ -177,7 +177,7 @@ TEST(HeatLossOfAnObject, NeverGrowsWithTheThicknessBeyondTheCriticalRadius) {
   }
 }
 
-Object Cold_Pipe() {
+Object Cold_Object() {
   Object object;
   object.medium_C = 10;
   object.ambient_C = 24;
@@ -190,18 +190,18 @@ TEST(CondensationOfAnObject, IsThatOfTheScreen) {
   const auto shown = [](const Object& object) {
     return Shown_Condensation(std::get<CondensResult>(Condensation_Of(object)));
   };
-  EXPECT_EQ(shown(Cold_Pipe()), (std::array<std::int64_t, 4>{17, 35, 125, 158}));
-  Object object = Cold_Pipe();
+  EXPECT_EQ(shown(Cold_Object()), (std::array<std::int64_t, 4>{17, 35, 125, 158}));
+  Object object = Cold_Object();
   object.kind = kCopperTube;
   object.diameter_mm = 21;
   EXPECT_EQ(shown(object), (std::array<std::int64_t, 4>{23, 35, 100, 159}));
-  object = Cold_Pipe();
+  object = Cold_Object();
   object.kind = kSheet;
   EXPECT_EQ(shown(object), (std::array<std::int64_t, 4>{20, 35, 125, 240}));
 }
 
 TEST(CondensationOfAnObject, NeedsNoInsulationAboveTheDewPoint) {
-  Object object = Cold_Pipe();
+  Object object = Cold_Object();
   object.medium_C = 20;
   EXPECT_EQ(Shown_Condensation(std::get<CondensResult>(Condensation_Of(object)))[0], 0);
 }
@@ -210,7 +210,7 @@ TEST(CondensationOfAnObject, HasItsReasonOutsideTheDewPointTable) {
   const auto reason = [](const Object& object) {
     return Words(std::get<Reason>(Condensation_Of(object)));
   };
-  Object object = Cold_Pipe();
+  Object object = Cold_Object();
   object.ambient_C = 25;
   EXPECT_EQ(reason(object), "the dew-point table has no such temperature and humidity");
   object.ambient_C = -20;

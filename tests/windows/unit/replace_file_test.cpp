@@ -10,6 +10,7 @@
 #include <thread>
 #include <vector>
 
+#include "../../unit/host/append_new.h"
 #include "../../unit/support/test_folder.h"
 #include "host/plain_file.h"
 
@@ -18,8 +19,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 using Names = std::vector<std::string>;
-
-std::string Append_New(const std::string& bytes) { return bytes + "new"; }
 
 class AFileThatIsReplaced : public testing::Test {
  protected:
