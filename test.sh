@@ -23,7 +23,7 @@ install_packages "to run all tests of Norvane" \
   python3 parallel groff pkg-config poppler-utils
 
 echo "== release"
-cmake --preset release -DNORVANE_WERROR=ON >/dev/null
+cmake --preset release -DNORVANE_WERROR=ON -DNORVANE_JOINED_TESTS=ON >/dev/null
 cmake --build --preset release
 
 echo "== clang"
@@ -38,7 +38,7 @@ cmake --build --preset sanitize --target quick_tests sanitized_tests
 
 echo "== tsan"
 cmake --preset tsan -DNORVANE_WERROR=ON >/dev/null
-cmake --build --preset tsan --target spreadsheet_tests norvane-batch
+cmake --build --preset tsan --target spreadsheet_tests norvane-batch interrupts_at_creation
 
 echo "== fuzz"
 cmake --preset fuzz -DNORVANE_WERROR=ON >/dev/null
