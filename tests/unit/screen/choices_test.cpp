@@ -7,19 +7,13 @@
 #include "../support/test_program.h"
 #include "calc/heat_loss.h"
 #include "data/runtime_error.h"
+#include "input_rows.h"
 
 namespace norvane {
 namespace {
 
 const Locale kPoint{'.'};
 const Locale kComma{','};
-
-constexpr InputRow kMedium{0, true};
-constexpr InputRow kThickness{2, true};
-constexpr InputRow kDiameter{3, true};
-constexpr InputRow kLength{InputRow::kLength, true};
-constexpr InputRow kTableTemperature{1, false};
-constexpr InputRow kHumidity{4, false};
 
 /// What the fields of a fresh program can be given.
 class WhatFieldsCanBeGiven : public testing::Test {

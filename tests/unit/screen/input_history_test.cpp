@@ -4,12 +4,10 @@
 
 #include "../support/test_program.h"
 #include "calc/heat_loss.h"
+#include "input_rows.h"
 
 namespace norvane {
 namespace {
-
-constexpr InputRow kMedium{0, true};
-constexpr InputRow kDiameter{3, true};
 
 /// The input fields of a fresh program, looked at after each event as the window does.
 class LastChanges : public testing::Test {

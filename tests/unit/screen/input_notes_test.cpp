@@ -7,30 +7,30 @@
 namespace norvane {
 namespace {
 
-constexpr Limits kMedium{-50, 115};
-constexpr Limits kDiameter{6, 915};
+constexpr Limits kMediumLimits{-50, 115};
+constexpr Limits kDiameterLimits{6, 915};
 
 TEST(WhatCameOfAText, IsTakenAsItIsOrWithoutItsLeadingZeros) {
-  EXPECT_EQ(What_Came_Of("80", "80", kMedium), GivenText::kTaken);
-  EXPECT_EQ(What_Came_Of("05", "5", kMedium), GivenText::kTaken);
-  EXPECT_EQ(What_Came_Of("", "0", kMedium), GivenText::kTaken);
-  EXPECT_EQ(What_Came_Of("00", "0", kMedium), GivenText::kTaken);
-  EXPECT_EQ(What_Came_Of("-12.5", "-12.5", kMedium), GivenText::kTaken);
+  EXPECT_EQ(What_Came_Of("80", "80", kMediumLimits), GivenText::kTaken);
+  EXPECT_EQ(What_Came_Of("05", "5", kMediumLimits), GivenText::kTaken);
+  EXPECT_EQ(What_Came_Of("", "0", kMediumLimits), GivenText::kTaken);
+  EXPECT_EQ(What_Came_Of("00", "0", kMediumLimits), GivenText::kTaken);
+  EXPECT_EQ(What_Came_Of("-12.5", "-12.5", kMediumLimits), GivenText::kTaken);
 }
 
 TEST(WhatCameOfAText, IsCutToALimit) {
-  EXPECT_EQ(What_Came_Of("125", "115", kMedium), GivenText::kCut);
-  EXPECT_EQ(What_Came_Of("-51", "-50", kMedium), GivenText::kCut);
-  EXPECT_EQ(What_Came_Of("916", "915", kDiameter), GivenText::kCut);
-  EXPECT_EQ(What_Came_Of("115", "115", kMedium), GivenText::kTaken);
+  EXPECT_EQ(What_Came_Of("125", "115", kMediumLimits), GivenText::kCut);
+  EXPECT_EQ(What_Came_Of("-51", "-50", kMediumLimits), GivenText::kCut);
+  EXPECT_EQ(What_Came_Of("916", "915", kDiameterLimits), GivenText::kCut);
+  EXPECT_EQ(What_Came_Of("115", "115", kMediumLimits), GivenText::kTaken);
 }
 
 TEST(WhatCameOfAText, IsLostInPartOrAsAWhole) {
-  EXPECT_EQ(What_Came_Of("-", "0", kMedium), GivenText::kLost);
-  EXPECT_EQ(What_Came_Of("1.", "1", kMedium), GivenText::kLost);
-  EXPECT_EQ(What_Came_Of("12,5", "12", kMedium), GivenText::kLost);
-  EXPECT_EQ(What_Came_Of("x", "0", kMedium), GivenText::kLost);
-  EXPECT_EQ(What_Came_Of("2", "10", kDiameter), GivenText::kLost) << "10 is no limit";
+  EXPECT_EQ(What_Came_Of("-", "0", kMediumLimits), GivenText::kLost);
+  EXPECT_EQ(What_Came_Of("1.", "1", kMediumLimits), GivenText::kLost);
+  EXPECT_EQ(What_Came_Of("12,5", "12", kMediumLimits), GivenText::kLost);
+  EXPECT_EQ(What_Came_Of("x", "0", kMediumLimits), GivenText::kLost);
+  EXPECT_EQ(What_Came_Of("2", "10", kDiameterLimits), GivenText::kLost) << "10 is no limit";
 }
 
 TEST(DegreesFahrenheit, AreStaleFromAChangeOfTheModeToTheNextChangeOfTheField) {
