@@ -129,7 +129,9 @@ int main(int argc, char** argv) {
     return kUsage;
   }
   try {
-    Soak soak(arguments[1].toStdString(), events, arguments[3].toUInt());
+    // Files without a folder in their names belong there, too.
+    std::filesystem::current_path(arguments[1].toStdString());
+    Soak soak(std::filesystem::current_path(), events, arguments[3].toUInt());
     return soak.Run() ? 0 : 1;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
+#include <QDialog>
 #include <QMessageBox>
 #include <QPointer>
 #include <QScopedValueRollback>
@@ -62,6 +63,12 @@ void RandomUser::timerEvent(QTimerEvent*) {
     return;
   }
   Begin();
+  // What shows the files of this machine would have them renamed, overwritten and deleted by
+  // hundreds.
+  if (auto* files = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      files != nullptr && (files->inherits("QFileDialog") || files->inherits("QPrintDialog"))) {
+    return files->reject();
+  }
   // A message that comes meanwhile is answered like any other.
   if (waits_ && qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) == nullptr) {
     chance_.One_In(2) ? Resize() : Bring_To_Front();
