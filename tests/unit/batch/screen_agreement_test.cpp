@@ -114,7 +114,7 @@ std::vector<std::string> Answered(const Object& object, char decimal) {
 /// The results of the same row in a schedule that is edited; those of a saving only where there is
 /// one.
 std::vector<std::string> In_A_Schedule(const Object& object, char decimal) {
-  const auto file = Schedule_Of(std::string(kHeader) + '\n' + Row(object, decimal) + '\n');
+  const auto file = Schedule_Of(std::string(kHeaderOfAll) + '\n' + Row(object, decimal) + '\n');
   ScheduleFile schedule = std::get<ScheduleFile>(file);
   schedule.dialect.decimal = decimal;
   const ScheduleTable table(schedule);

@@ -8,11 +8,10 @@
 #include "../study/objects.h"
 #include "../support/test_program.h"
 #include "frame/shared_state.h"
+#include "numbered_texts.h"
 
 namespace norvane {
 namespace {
-
-std::string Number_Of(TextId id) { return "t" + std::to_string(static_cast<int>(id)); }
 
 ComparisonTable Comparison_In_Euro() {
   Prices prices;

@@ -5,6 +5,7 @@
 #include "../study/objects.h"
 #include "../support/test_program.h"
 #include "frame/shared_state.h"
+#include "numbered_texts.h"
 #include "report/comparison_export.h"
 #include "report/present_object.h"
 
@@ -12,8 +13,6 @@ namespace norvane {
 namespace {
 
 using Table = ComparisonTable;
-
-std::string Number_Of(TextId id) { return "t" + std::to_string(static_cast<int>(id)); }
 
 Table Compare_With(const Prices& prices, const Object& object, char sign = '.') {
   return Comparison_Of(object, prices, Number_Of, {sign});
