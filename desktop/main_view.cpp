@@ -4,16 +4,20 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "desktop/calculation_pages.h"
+#include "desktop/chart_of_screen.h"
 #include "desktop/columns.h"
 #include "desktop/compare_window.h"
 #include "desktop/desktop.h"
 #include "desktop/input_card.h"
 #include "desktop/object_card.h"
 #include "desktop/own_commands.h"
+#include "desktop/own_texts.h"
 #include "desktop/report_window.h"
 #include "desktop/result_card.h"
 #include "desktop/schedule/schedule_window.h"
 #include "desktop/tool_strip.h"
+#include "report/calculation_report.h"
 
 namespace norvane {
 
@@ -112,8 +116,19 @@ void MainView::Compare() {
 }
 
 void MainView::Report() {
-  if (report_ == nullptr) report_ = new ReportWindow(*this, warmt_);
+  if (report_ == nullptr) {
+    report_ = new ReportWindow(*this, desktop(), QPageLayout::Portrait,
+                               [this](const ReportFrame& frame) { return Pages(frame); });
+  }
   report_->Open();
+}
+
+std::unique_ptr<ReportPages> MainView::Pages(const ReportFrame& frame) {
+  if (form() == nullptr) return nullptr;
+  const auto wording = [this](TextId id) { return Own_Text(desktop(), id).toStdString(); };
+  return std::make_unique<CalculationPages>(desktop(),
+                                            Report_Of(desktop().program().State(), warmt_, wording),
+                                            Chart_Of_Screen(desktop(), warmt_), frame);
 }
 
 void MainView::Arrange() {

@@ -11,10 +11,12 @@ class CompareWindow;
 class InputCard;
 class ObjectCard;
 class OwnCommands;
+class ReportPages;
 class ReportWindow;
 class ResultCard;
 class ScheduleWindow;
 class ToolStrip;
+struct ReportFrame;
 
 /// The main screen: menu labels and toolbar strip on top, input rows beside the insulated object,
 /// the results below, the green band with the front end's own commands at the foot.
@@ -37,6 +39,8 @@ class MainView : public FormView {
   void Compare();
   void Show_Schedule();
   void Report();
+  /// The report of what is shown; null when the screen has gone.
+  std::unique_ptr<ReportPages> Pages(const ReportFrame& frame);
 
   Warmt& warmt_;
   ToolStrip* tools_;

@@ -1,17 +1,14 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
-#include <QVector>
-#include <memory>
 
 class QPagedPaintDevice;
-class QTextDocument;
+class QPainter;
+class QRectF;
 
 namespace norvane {
 
 class Desktop;
-struct CalculationReport;
 
 /// What a report is headed by, and what stands at the foot of its pages beside their numbers.
 struct ReportFrame {
@@ -19,32 +16,23 @@ struct ReportFrame {
   QString date;
 };
 
-/// A table over as many pages as it takes. Its headings stand at the top of each.
-struct TableReport {
-  QString title;
-  QStringList headings;
-  QVector<QStringList> rows;
-  QStringList sums;  ///< a last line in bold, as many cells as there are headings, or none
-};
-
-/// The pages of a calculation or a table, laid out anew for each device.
+/// The pages of a report, laid out anew for each device.
 class ReportPages {
  public:
-  /// @param desktop has the texts of the language
-  ReportPages(const Desktop& desktop, const CalculationReport& report, ReportFrame frame);
-  ReportPages(const Desktop& desktop, const TableReport& table, ReportFrame frame);
+  virtual ~ReportPages() = default;
 
   /// Paints all pages, each with its number.
-  void Paint(QPagedPaintDevice& device) const;
+  virtual void Paint(QPagedPaintDevice& device) const = 0;
   /// What the pages say, to tell whether it has changed.
-  const QString& Html() const { return html_; }
-
- private:
-  std::unique_ptr<QTextDocument> Laid_Out_For(QPagedPaintDevice& device) const;
-
-  ReportFrame frame_;
-  QString html_;
-  int picture_ = 0;  ///< of an object, 0 for none
+  virtual QString Words() const = 0;
 };
+
+/// The line under a report's title; empty for a project without a name.
+QString Project_Line(const Desktop& desktop, const ReportFrame& frame);
+
+/// The foot of a page: the project, the date, the number of the page and how many there are.
+/// @param page from 1
+void Paint_Foot(QPainter& painter, const QRectF& foot, const ReportFrame& frame, int page,
+                int pages);
 
 }  // namespace norvane

@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QDate>
+#include <QEvent>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,28 +19,27 @@
 
 #include "desktop/accessible.h"
 #include "desktop/desktop.h"
-#include "desktop/form_view.h"
 #include "desktop/own_texts.h"
 #include "frame/version.h"
-#include "report/calculation_report.h"
 #include "report/kept_prices.h"
 
 namespace norvane {
 namespace {
 
-const QPageLayout kPage(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(20, 15, 15, 15),
-                        QPageLayout::Millimeter);
+constexpr QMarginsF kMargins(20, 15, 15, 15);  // millimetres
 
 }  // namespace
 
-ReportWindow::ReportWindow(FormView& main, Warmt& warmt)
-    : QWidget(&main, Qt::Window),
-      main_(main),
-      warmt_(warmt),
+ReportWindow::ReportWindow(QWidget& parent, Desktop& desktop, QPageLayout::Orientation orientation,
+                           const Maker& make)
+    : QWidget(&parent, Qt::Window),
+      desktop_(desktop),
+      make_(make),
+      page_(QPageSize(QPageSize::A4), orientation, kMargins, QPageLayout::Millimeter),
       printer_(QPrinter::HighResolution),
       preview_(new QPrintPreviewWidget(&printer_)) {
   setObjectName("report");
-  printer_.setPageLayout(kPage);
+  printer_.setPageLayout(page_);
   auto* column = new QVBoxLayout(this);
   column->addWidget(Make_Actions());
   column->addWidget(preview_, 1);
@@ -79,11 +79,13 @@ QWidget* ReportWindow::Make_Actions() {
 void ReportWindow::Open() {
   if (!isVisible()) {
     constexpr QSize kWanted(620, 820);
+    const bool upright = page_.orientation() == QPageLayout::Portrait;
     constexpr double kPartOfScreen = 0.9;
-    project_->setText(QString::fromStdString(Kept_Prices(main_.desktop().files()).project));
+    project_->setText(QString::fromStdString(Kept_Prices(desktop_.files()).project));
     project_->setModified(false);
     Show_All();
-    resize(kWanted.boundedTo(screen()->availableSize() * kPartOfScreen));
+    resize((upright ? kWanted : kWanted.transposed())
+               .boundedTo(screen()->availableSize() * kPartOfScreen));
     project_->setFocus();
     show();
   }
@@ -91,25 +93,28 @@ void ReportWindow::Open() {
   activateWindow();
 }
 
+void ReportWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) Follow();
+}
+
 void ReportWindow::Follow() {
-  if (isVisible() && main_.form() != nullptr) Show_All();
+  if (isVisible()) Show_All();
 }
 
 void ReportWindow::Show_All() {
-  const Desktop& desktop = main_.desktop();
-  const auto wording = [&desktop](TextId id) { return Own_Text(desktop, id).toStdString(); };
-  const QString title = Own_Text(desktop, TextId::kReport);
-  if (windowTitle() != title) setWindowTitle(title);
-  project_heading_->setText(Own_Text(desktop, TextId::kProject));
-  print_->setText(Own_Text(desktop, TextId::kPrint));
-  save_->setText(Own_Text(desktop, TextId::kSavePdf));
-  Tell(*project_, project_heading_->text());
-  Tell(*preview_, title);
-  const Module1& module1 = main_.desktop().program().State();
   const ReportFrame frame{project_->text().simplified(),
                           QLocale().toString(QDate::currentDate(), QLocale::ShortFormat)};
-  auto pages = std::make_unique<ReportPages>(desktop, Report_Of(module1, warmt_, wording), frame);
-  const bool same = pages_ != nullptr && pages_->Html() == pages->Html();
+  auto pages = make_(frame);
+  if (pages == nullptr) return;
+  const QString title = Own_Text(desktop_, TextId::kReport);
+  if (windowTitle() != title) setWindowTitle(title);
+  project_heading_->setText(Own_Text(desktop_, TextId::kProject));
+  print_->setText(Own_Text(desktop_, TextId::kPrint));
+  save_->setText(Own_Text(desktop_, TextId::kSavePdf));
+  Tell(*project_, project_heading_->text());
+  Tell(*preview_, title);
+  const bool same = pages_ != nullptr && pages_->Words() == pages->Words();
   pages_ = std::move(pages);
   if (!same) preview_->updatePreview();
 }
@@ -118,7 +123,7 @@ void ReportWindow::Keep_Project() {
   if (!project_->isModified()) return;
   project_->setModified(false);
   const std::string name = project_->text().simplified().toStdString();
-  Change_Prices(main_.desktop().files(), [&](Prices& prices) { prices.project = name; });
+  Change_Prices(desktop_.files(), [&](Prices& prices) { prices.project = name; });
 }
 
 void ReportWindow::Print() {
@@ -141,7 +146,7 @@ QString ReportWindow::Save_As(const QString& path) {
   bytes.open(QIODevice::WriteOnly);
   {
     QPdfWriter pdf(&bytes);
-    pdf.setPageLayout(kPage);
+    pdf.setPageLayout(page_);
     pdf.setTitle(windowTitle());
     pdf.setCreator(kTitle);
     pages_->Paint(pdf);

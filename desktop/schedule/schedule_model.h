@@ -30,6 +30,10 @@ class ScheduleModel : public QAbstractTableModel, public RowObserver {
   Qt::ItemFlags flags(const QModelIndex& index) const override;
   bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
+  /// The first column of the results, which go on in the order of `kHeatLossColumns`.
+  int First_Result() const;
+  /// Whether a column holds words, and no numbers.
+  bool Holds_Words(int column) const;
   /// Whether a column holds the kinds of objects, which are chosen and not typed.
   bool Holds_Kinds(int column) const;
 
@@ -40,8 +44,6 @@ class ScheduleModel : public QAbstractTableModel, public RowObserver {
   void Rows_Changed();
 
  private:
-  int First_Result() const;
-  bool Holds_Words(int column) const;
   QString Field(int row, int column) const;
   QString Result(int row, int place) const;
   QString Cell(int row, int column) const;

@@ -13,8 +13,10 @@
 #include "desktop/desktop.h"
 #include "desktop/letters.h"
 #include "desktop/own_texts.h"
+#include "desktop/report_window.h"
 #include "desktop/schedule/present_line.h"
 #include "desktop/schedule/schedule_model.h"
+#include "desktop/schedule/schedule_report.h"
 #include "desktop/schedule/schedule_table_view.h"
 #include "desktop/schedule/schedule_texts.h"
 
@@ -42,7 +44,10 @@ ScheduleWindow::ScheduleWindow(Desktop& desktop, const std::filesystem::path& fo
   page->addWidget(table_, 1);
   Make_Foot(*page);
   keeping_.setSingleShot(true);
-  keeping_.callOnTimeout([this] { session_.Keep(); });
+  keeping_.callOnTimeout([this] {
+    outlives_a_crash_ = session_.Keep();
+    Show_Notice();
+  });
   connect(model_, &ScheduleModel::Rows_Changed, this, &ScheduleWindow::Note_Changes);
   connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
           &ScheduleWindow::Show_Remark);
@@ -82,6 +87,8 @@ void ScheduleWindow::Make_Rows_Of_Commands(QBoxLayout& page) {
   file->addSpacing(16);
   Add_Command(*file, TextId::kUndo, "", Qt::CTRL | Qt::Key_Z, &ScheduleWindow::Undo);
   Add_Command(*file, TextId::kRedo, "", Qt::CTRL | Qt::Key_Y, &ScheduleWindow::Redo);
+  file->addSpacing(16);
+  Add_Command(*file, TextId::kReport, "", QKeySequence("Ctrl+P"), &ScheduleWindow::Report);
   file->addStretch();
   page.addLayout(file);
   auto* rows = new QHBoxLayout;
@@ -123,8 +130,8 @@ void ScheduleWindow::Follow_Language() {
     command.button->setToolTip(text + " (" + command.key + ')');
     Tell(*command.button, text, command.key);
   }
-  notice_->setText(Own_Text(desktop_, TextId::kRecovered));
   Exchange_Document([] {});
+  if (report_ != nullptr) report_->Follow();
 }
 
 void ScheduleWindow::Exchange_Document(const std::function<void()>& change) {
@@ -149,21 +156,38 @@ QString ScheduleWindow::Name_Of_File() const {
   return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
-void ScheduleWindow::Show_State() {
-  ScheduleDocument& document = session_.Document();
+QString ScheduleWindow::Title() const {
   const QString title = Own_Text(desktop_, TextId::kSchedule);
   const QString file = Name_Of_File();
+  return file.isEmpty() ? title : file + " \u2013 " + title;
+}
+
+void ScheduleWindow::Show_State() {
+  ScheduleDocument& document = session_.Document();
   // "[*]" in a file's name is no mark of changes.
-  setWindowTitle(
-      (file.isEmpty() ? title : QString(file).replace("[*]", "[*][*]") + " \u2013 " + title) +
-      " [*]");
+  setWindowTitle(Title().replace("[*]", "[*][*]") + " [*]");
   setWindowModified(document.Changed());
-  Tell(*table_, title);
-  notice_->setVisible(session_.Recovered());
+  Tell(*table_, Own_Text(desktop_, TextId::kSchedule));
+  if (!document.Changed()) outlives_a_crash_ = true;
+  Show_Notice();
   const QString sums = Words_For(desktop_, document.Table().Sums());
   sums_->setText(sums);
   Tell(*sums_, sums);
   Show_Remark();
+}
+
+void ScheduleWindow::Show_Notice() {
+  QString notice;
+  if (!outlives_a_crash_) {
+    notice =
+        QStringLiteral("schedule-\u2026.recovery: ") + Own_Text(desktop_, TextId::kUnusableFile);
+  } else if (session_.Recovered()) {
+    notice = Own_Text(desktop_, TextId::kRecovered);
+  }
+  notice_->setVisible(!notice.isEmpty());
+  if (notice_->text() == notice) return;
+  notice_->setText(notice);
+  Tell(*notice_, notice);
 }
 
 void ScheduleWindow::Show_Remark() {
@@ -225,9 +249,22 @@ void ScheduleWindow::Move_Down() {
   table_->Mark_Rows(std::min(first + 1, std::max(model_->rowCount() - count, 0)), count);
 }
 
+void ScheduleWindow::Report() {
+  if (report_ == nullptr) {
+    const auto make = [this](const ReportFrame& frame) -> std::unique_ptr<ReportPages> {
+      return std::make_unique<TablePages>(
+          desktop_, Report_Of(desktop_, Title(), *model_, session_.Document().Table().Sums()),
+          frame);
+    };
+    report_ = new ReportWindow(*this, desktop_, QPageLayout::Landscape, make);
+  }
+  report_->Open();
+}
+
 void ScheduleWindow::closeEvent(QCloseEvent* event) {
   table_->Finish_Editing();
   event->setAccepted(Let_Go_Of_Changes());
+  if (event->isAccepted() && report_ != nullptr) report_->hide();
 }
 
 }  // namespace norvane

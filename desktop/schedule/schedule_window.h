@@ -16,6 +16,7 @@ class QPushButton;
 namespace norvane {
 
 class Desktop;
+class ReportWindow;
 class ScheduleModel;
 class ScheduleTableView;
 
@@ -65,6 +66,7 @@ class ScheduleWindow : public QWidget {
   void Delete();
   void Move_Up();
   void Move_Down();
+  void Report();
 
   enum class Answer { kSave, kDiscard, kCancel };
   Answer Ask_About_Changes();
@@ -77,7 +79,10 @@ class ScheduleWindow : public QWidget {
   void Exchange_Document(const std::function<void()>& change);
   void Mark(const std::optional<RowChange>& change);
   QString Name_Of_File() const;
+  QString Title() const;
   void Show_State();
+  /// That the rows come from a session that broke off, or that they wouldn't outlive a crash.
+  void Show_Notice();
   void Show_Remark();
   void Note_Changes();
 
@@ -88,8 +93,10 @@ class ScheduleWindow : public QWidget {
   QLabel* notice_;
   QLabel* sums_;
   QLabel* remark_;
+  ReportWindow* report_ = nullptr;  ///< once it was asked for
   std::vector<Command> commands_;
   QTimer keeping_;
+  bool outlives_a_crash_ = true;  ///< what was changed last
   QString language_;
 };
 

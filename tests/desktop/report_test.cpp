@@ -1,11 +1,13 @@
-// Needs pdftotext and pdffonts, which read what is printed from outside.
+#include <QApplication>
 #include <QLocale>
 #include <QPdfWriter>
-#include <QProcess>
-#include <QRegularExpression>
+#include <QPrintDialog>
+#include <QPushButton>
 #include <QTest>
 
 #include "desktop/report_window.h"
+#include "desktop/table_pages.h"
+#include "printed.h"
 #include "report/kept_prices.h"
 #include "window_test.h"
 
@@ -22,21 +24,11 @@ class Reporting : public WindowTest {
   }
   ReportWindow* Window_Or_None() { return Main_View().findChild<ReportWindow*>(); }
 
-  QString Run(const QString& program, const QStringList& arguments) {
-    QProcess process;
-    process.start(program, arguments);
-    EXPECT_TRUE(process.waitForFinished()) << program.toStdString() << " is missing";
-    return QString::fromUtf8(process.readAllStandardOutput());
-  }
   QString Pdf() { return QString::fromStdString((folder.Path() / "report.pdf").string()); }
-  /// Without blanks, of which a reader of printed letters can only guess where they were.
-  static QString Bare(const QString& text) {
-    return QString(text).remove(QRegularExpression("\\s"));
-  }
   /// What the report says.
   QString Printed() {
     EXPECT_EQ(Window_Or_None()->Save_As(Pdf()).toStdString(), "");
-    return Bare(Run("pdftotext", {"-layout", Pdf(), "-"}));
+    return Printed_Text(Pdf());
   }
   void Choose_Language(const std::string& code) {
     const auto& codes = State().languages.Lang_Code;
@@ -107,13 +99,7 @@ TEST_F(Reporting, Follows_The_Main_Screen_While_It_Is_Open) {
 TEST_F(Reporting, Embeds_Its_Fonts) {
   Open();
   Printed();
-  const QStringList fonts = Run("pdffonts", {Pdf()}).trimmed().split('\n').mid(2);
-  EXPECT_FALSE(fonts.isEmpty());
-  for (const QString& font : fonts) {
-    // The columns emb, sub and uni are followed by an object of two numbers.
-    const QStringList columns = font.simplified().split(' ');
-    EXPECT_EQ(columns[columns.size() - 5], "yes") << font.toStdString();
-  }
+  Expect_Embedded_Fonts(Pdf());
 }
 
 TEST_F(Reporting, Bears_The_Projects_Name_And_Keeps_It) {
@@ -131,22 +117,131 @@ TEST_F(Reporting, Says_Why_It_Cannot_Be_Saved) {
   EXPECT_NE(Window_Or_None()->Save_As(Pdf() + "/in/no/folder.pdf"), "");
 }
 
-TEST_F(Reporting, Of_A_Table_Goes_Over_Pages_With_Headings_Numbers_And_Sums) {
-  TableReport table{"Schedule", {"Name", "kWh"}, {}, {"Total", "4711"}};
-  for (int i = 1; i <= 200; ++i) table.rows << QStringList{QString("row %1").arg(i), "1"};
-  QPdfWriter pdf(Pdf());
-  pdf.setPageSize(QPageSize(QPageSize::A4));
-  ReportPages(desktop, table, {"House", "1/2/26"}).Paint(pdf);
-  const QStringList pages = Run("pdftotext", {"-layout", Pdf(), "-"}).split('\f');
-  const auto count = pages.size() - 1;  // behind the last one there is nothing
+TEST_F(Reporting, Has_The_Chart_Of_The_Screen) {
+  Fill_In_The_Pipe_Of_The_Guide();
+  Open();
+  const QString of_heat_loss = Printed();
+  EXPECT_TRUE(of_heat_loss.contains("Heatlosswithinsulation,W/m")) << of_heat_loss.toStdString();
+  EXPECT_TRUE(of_heat_loss.contains("Insulationthickness,mm"));
+  Click(Screen().cmdToolBarC);
+  Paste(Screen().txtC(0), "6");
+  EXPECT_TRUE(Printed().contains("Relativehumidity,%"));
+}
+
+TEST_F(Reporting, Has_No_Chart_Where_There_Is_Nothing_To_Calculate) {
+  Paste(Screen().txtT(3), "3");
+  Open();
+  const QString text = Printed();
+  EXPECT_TRUE(text.contains("Steelpipe"));
+  EXPECT_FALSE(text.contains("Insulationthickness,mm")) << text.toStdString();
+}
+
+TEST_F(Reporting, Takes_One_Page_In_Every_Language) {
+  watchdog.Set_Patience(60000);
+  Fill_In_The_Pipe_Of_The_Guide();
+  for (std::size_t slot = 0; slot < State().languages.Lang_Code.size(); ++slot) {
+    const std::string code = State().languages.Lang_Code[slot];
+    if (code.empty()) continue;
+    State().Lang_Index = static_cast<std::int16_t>(slot);
+    for (const Field* mode : {&Screen().cmdToolBarT, &Screen().cmdToolBarC}) {
+      Click(*mode);
+      Open();
+      Printed();
+      EXPECT_EQ(Texts_Of_Pages(Pdf()).size(), 1) << code;
+      Window_Or_None()->close();
+      Wait_Until_Active(Screen());
+    }
+  }
+  State().Lang_Index = 0;
+}
+
+TEST_F(Reporting, Is_The_Same_On_Paper_Under_A_Dark_Theme) {
+  Open();
+  Printed();
+  const QImage light = Printed_Page(Pdf());
+  ASSERT_FALSE(light.isNull());
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(QPalette(QColor(0x35, 0x35, 0x35), QColor(0x2A, 0x2A, 0x2A)));
+  Settle();
+  Printed();
+  EXPECT_EQ(Printed_Page(Pdf()), light);
+  QApplication::setPalette(before);
+}
+
+TEST_F(Reporting, Is_Printed_By_The_Dialog_Of_The_System) {
+  Fill_In_The_Pipe_Of_The_Guide();
+  Open();
+  const QString as_saved = Printed();
+  const QString out = Pdf() + ".printed";
+  watchdog.Expect([&](QWidget& dialog) {
+    auto& print = dynamic_cast<QPrintDialog&>(dialog);
+    print.printer()->setOutputFileName(out);
+    for (auto* line : dialog.findChildren<QLineEdit*>("filename")) line->setText(out);
+    print.accept();
+  });
+  Press(Qt::Key_P, Qt::ControlModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return watchdog.Content() && QFile::exists(out); }, 10000));
+  EXPECT_EQ(Printed_Text(out).toStdString(), as_saved.toStdString());
+  Expect_Embedded_Fonts(out);
+}
+
+/// A table on paper, without a window.
+class PrintedTable : public Reporting {
+ protected:
+  /// A number column behind the names, with a sum.
+  static TableReport Of_Rows(int rows) {
+    TableReport table{"Schedule", {{"Name", true}, {"Heat\nkWh", false}}, {}, {"Total", "4711"}};
+    for (int i = 1; i <= rows; ++i) table.rows << QStringList{QString("row %1").arg(i), "1"};
+    return table;
+  }
+  QStringList Print(const TableReport& table) {
+    QPdfWriter pdf(Pdf());
+    pdf.setPageSize(QPageSize(QPageSize::A4));
+    TablePages(desktop, table, {"House", "1/2/26"}).Paint(pdf);
+    return Texts_Of_Pages(Pdf());
+  }
+};
+
+TEST_F(PrintedTable, Goes_Over_Pages_With_Headings_Numbers_And_Sums) {
+  const QStringList pages = Print(Of_Rows(200));
+  const auto count = pages.size();
   ASSERT_GT(count, 2);
   for (qsizetype page = 0; page < count; ++page) {
     EXPECT_TRUE(Bare(pages[page]).contains(QString("%1/%2").arg(page + 1).arg(count)));
-    EXPECT_TRUE(pages[page].contains("kWh")) << "no headings on page " << page + 1;
+    EXPECT_TRUE(pages[page].contains("Name")) << "no headings on page " << page + 1;
   }
   EXPECT_TRUE(pages[0].contains("row 1 "));
   EXPECT_TRUE(pages[count - 1].contains("row 200 "));
   EXPECT_TRUE(pages[count - 1].contains("4711"));
+  const QString all = Printed_Text(Pdf());
+  for (int i = 1; i <= 200; ++i) EXPECT_TRUE(all.contains(QString("row%11").arg(i)));
+}
+
+TEST_F(PrintedTable, Has_Its_Sums_Behind_A_Row_Wherever_The_Page_Ends) {
+  for (int rows = 40; rows < 90; ++rows) {
+    const QStringList pages = Print(Of_Rows(rows));
+    EXPECT_TRUE(pages.last().contains("4711")) << rows;
+    EXPECT_TRUE(pages.last().contains(QString("row %1").arg(rows))) << rows;
+  }
+}
+
+TEST_F(PrintedTable, Is_As_Wide_As_The_Page_At_Most_And_Loses_No_Letter) {
+  TableReport table{"Schedule", {}, {{}}, {}};
+  for (int i = 0; i < 40; ++i) {
+    table.columns.append({QString("heading of column %1").arg(i), i % 10 == 0});
+    table.rows[0] << (i % 10 == 0 ? QString("long words of cell %1 and others").arg(i)
+                                  : QString("%1.25").arg(1000 + i));
+  }
+  const QStringList pages = Print(table);
+  ASSERT_EQ(pages.size(), 1);
+  const QString text = Bare(pages[0]);
+  for (int i = 0; i < 40; ++i) {
+    if (i % 10 != 0) EXPECT_TRUE(text.contains(QString("%1.25").arg(1000 + i))) << i;
+  }
+  const QImage page = Printed_Page(Pdf());
+  for (int y = 0; y < page.height(); ++y) {
+    ASSERT_EQ(page.pixelColor(page.width() - 2, y), QColor(Qt::white)) << "at the right edge";
+  }
 }
 
 }  // namespace

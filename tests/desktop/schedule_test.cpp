@@ -12,13 +12,21 @@
 #include <set>
 
 #include "calc/conversions.h"
+#include "desktop/report_window.h"
 #include "desktop/schedule/schedule_window.h"
+#include "printed.h"
 #include "window_test.h"
 
 namespace norvane {
 namespace {
 
 constexpr int kPatience = 5000;  // milliseconds
+
+constexpr const char* kSchedule =
+    "mark,kind,medium_C,ambient_C,thickness_mm,diameter_mm\r\n"
+    "x,steel,80,15,13,21\r\n"
+    "y,sheet,80,15,50,\r\n"
+    "z,copper,180,15,13,22\r\n";
 
 class ScheduleTest : public WindowTest {
  protected:
@@ -113,6 +121,12 @@ class ScheduleTest : public WindowTest {
     EXPECT_TRUE(QTest::qWaitFor([&] { return watchdog.Content(); }, kPatience));
     Settle();
   }
+  /// The file a.csv, which is `kSchedule`.
+  void Open_Three_Rows() {
+    folder.Write("a.csv", kSchedule);
+    Open_Schedule();
+    Open_File(folder / "a.csv");
+  }
   std::vector<std::string> Kept_Files() {
     std::vector<std::string> kept;
     for (const std::string& name : folder.Names()) {
@@ -121,12 +135,6 @@ class ScheduleTest : public WindowTest {
     return kept;
   }
 };
-
-constexpr const char* kSchedule =
-    "mark,kind,medium_C,ambient_C,thickness_mm,diameter_mm\r\n"
-    "x,steel,80,15,13,21\r\n"
-    "y,sheet,80,15,50,\r\n"
-    "z,copper,180,15,13,22\r\n";
 
 TEST_F(ScheduleTest, Opens_By_The_Word_At_The_Foot) {
   Click(Button_Of(Main_View(), "Schedule"));
@@ -169,9 +177,7 @@ TEST_F(ScheduleTest, In_Condensation_The_Row_Has_The_Thickness_That_The_Screen_S
 }
 
 TEST_F(ScheduleTest, An_Edited_Row_Has_A_New_Result_And_The_Sums_Follow) {
-  folder.Write("a.csv", kSchedule);
-  Open_Schedule();
-  Open_File(folder / "a.csv");
+  Open_Three_Rows();
   EXPECT_EQ(Texts("Natural gas saving"), "2.72|56.82|");
   EXPECT_EQ(Texts("Remark"), "||Medium temperature \u00B0C > 115");
   const auto says = [this](const QString& part) {
@@ -193,9 +199,7 @@ TEST_F(ScheduleTest, An_Edited_Row_Has_A_New_Result_And_The_Sums_Follow) {
 }
 
 TEST_F(ScheduleTest, Keys_Duplicate_Move_Delete_Undo_And_Redo) {
-  folder.Write("a.csv", kSchedule);
-  Open_Schedule();
-  Open_File(folder / "a.csv");
+  Open_Three_Rows();
   Go_To(0, "mark");
   Press(Qt::Key_Down, Qt::AltModifier);
   EXPECT_EQ(Texts("mark"), "y|x|z");
@@ -233,9 +237,7 @@ TEST_F(ScheduleTest, The_Whole_Window_Is_Reached_By_Tab_And_Each_Control_Has_A_N
 }
 
 TEST_F(ScheduleTest, Enter_Edits_A_Cell_And_Tab_Goes_On_To_The_Next) {
-  folder.Write("a.csv", kSchedule);
-  Open_Schedule();
-  Open_File(folder / "a.csv");
+  Open_Three_Rows();
   Go_To(0, "Medium temperature");
   Press(Qt::Key_Return);
   Press(Qt::Key_A, Qt::ControlModifier);
@@ -249,9 +251,7 @@ TEST_F(ScheduleTest, Enter_Edits_A_Cell_And_Tab_Goes_On_To_The_Next) {
 }
 
 TEST_F(ScheduleTest, A_Kind_Is_Chosen_From_A_List) {
-  folder.Write("a.csv", kSchedule);
-  Open_Schedule();
-  Open_File(folder / "a.csv");
+  Open_Three_Rows();
   Go_To(0, "Object");
   Press(Qt::Key_F2);
   Press(Qt::Key_Down);
@@ -279,9 +279,7 @@ TEST_F(ScheduleTest, What_Was_Saved_Is_There_When_It_Is_Opened_Again) {
 }
 
 TEST_F(ScheduleTest, Columns_Of_Other_Names_And_Their_Order_Are_Kept) {
-  folder.Write("a.csv", kSchedule);
-  Open_Schedule();
-  Open_File(folder / "a.csv");
+  Open_Three_Rows();
   Enter(1, "mark", "Y");
   Press_Control(Qt::Key_S);
   std::string expected = kSchedule;
@@ -290,9 +288,7 @@ TEST_F(ScheduleTest, Columns_Of_Other_Names_And_Their_Order_Are_Kept) {
 }
 
 TEST_F(ScheduleTest, A_File_That_Somebody_Else_Has_Changed_Is_Not_Overwritten) {
-  folder.Write("a.csv", kSchedule);
-  Open_Schedule();
-  Open_File(folder / "a.csv");
+  Open_Three_Rows();
   Enter(0, "mark", "mine");
   folder.Write("a.csv", "theirs");
   Save_As(folder / "b.csv");
@@ -362,9 +358,7 @@ TEST_F(ScheduleTest, The_End_Of_A_Session_Asks_Nothing_And_Loses_Nothing) {
 }
 
 TEST_F(ScheduleTest, Copied_Rows_Have_Their_Headings) {
-  folder.Write("a.csv", kSchedule);
-  Open_Schedule();
-  Open_File(folder / "a.csv");
+  Open_Three_Rows();
   Go_To(1, "mark");
   Press_Control(Qt::Key_C);
   const QStringList lines = QApplication::clipboard()->text().split('\n');
@@ -373,13 +367,56 @@ TEST_F(ScheduleTest, Copied_Rows_Have_Their_Headings) {
   EXPECT_TRUE(lines[1].startsWith("y\tFlat surface\t80\t15\t50\t"));
 }
 
+TEST_F(ScheduleTest, Is_Reported_With_Its_Results_Remarks_And_Sums) {
+  Open_Three_Rows();
+  Press_Control(Qt::Key_P);
+  auto* report = Window().findChild<ReportWindow*>();
+  ASSERT_NE(report, nullptr);
+  ASSERT_TRUE(Comes_To_Front(*report));
+  const QString pdf = QString::fromStdString((folder / "report.pdf").string());
+  ASSERT_EQ(report->Save_As(pdf).toStdString(), "");
+  const QString text = Printed_Text(pdf);
+  for (const char* part : {"a.csv", "xSteelpipe80151321", "2.72", "56.82", "Total(2)", "59.54", "z",
+                           "Mediumtemperature\u00B0C>115"}) {
+    EXPECT_TRUE(text.contains(part)) << part << " is missing in " << text.toStdString();
+  }
+  EXPECT_FALSE(text.contains("Numberofmetres")) << "a column without a text";
+  Expect_Embedded_Fonts(pdf);
+  // What changes behind the report is in it when it comes to the front again.
+  Window().activateWindow();
+  ASSERT_TRUE(Comes_To_Front(Window()));
+  Enter(2, "Medium temperature", "80");
+  Press_Control(Qt::Key_P);
+  ASSERT_TRUE(Comes_To_Front(*report));
+  ASSERT_EQ(report->Save_As(pdf).toStdString(), "");
+  EXPECT_TRUE(Printed_Text(pdf).contains("61.62"));
+  Press_Control(Qt::Key_Z);
+}
+
+TEST_F(ScheduleTest, Says_When_Changes_Would_Not_Outlive_A_Crash) {
+  ScheduleWindow window(desktop, folder / "missing");
+  window.Come_Forward();
+  ASSERT_TRUE(Comes_To_Front(window));
+  const auto said = [&window] {
+    for (const auto* label : window.findChildren<QLabel*>()) {
+      if (label->isVisible() && label->text().startsWith("schedule-")) return true;
+    }
+    return false;
+  };
+  EXPECT_FALSE(said());
+  Press_Control(Qt::Key_Return);
+  EXPECT_TRUE(QTest::qWaitFor(said, kPatience));
+  Press_Control(Qt::Key_Z);
+  EXPECT_FALSE(said()) << "there is nothing to lose";
+}
+
 TEST_F(ScheduleTest, Follows_The_Language_While_It_Is_Open) {
   Open_Schedule();
   const auto& codes = State().languages.Lang_Code;
   const auto slot = std::find(codes.begin(), codes.end(), "de");
   State().Lang_Index = static_cast<std::int16_t>(slot - codes.begin());
   desktop.Show_Changes();
-  EXPECT_EQ(Window().windowTitle().toStdString(), "Liste [*]");
+  EXPECT_EQ(Window().windowTitle().toStdString(), "Aufstellung [*]");
   EXPECT_NO_THROW(Button_Of(Window(), "Speichern"));
   EXPECT_EQ(Table().model()->headerData(0, Qt::Horizontal).toString().toStdString(), "Name");
   State().Lang_Index = 0;
@@ -431,9 +468,7 @@ class ScheduleWithComma : public ScheduleTest {
 };
 
 TEST_F(ScheduleWithComma, Takes_A_Comma_And_Keeps_The_Sign_Of_The_File) {
-  folder.Write("a.csv", kSchedule);
-  Open_Schedule();
-  Open_File(folder / "a.csv");
+  Open_Three_Rows();
   Enter(0, "Insulation thickness", "13,5");
   EXPECT_EQ(Cell(0, "Insulation thickness").toStdString(), "13,5");
   EXPECT_EQ(Cell(1, "Natural gas saving").toStdString(), "56,82");
