@@ -16,6 +16,7 @@ FRESH = b"[Init]\r\nA1= 17\r\nA4= 9\r\n"
 KEPT = FRESH + b"[Setting]\r\nHr_Day= 7\r\nDays= 30\r\n"
 PRIVATE = b"what the user has written elsewhere\n"
 CHANGE = "start\n" + set_hours(7)
+TRIES = 10
 
 
 def as_user(user=USER, umask=0o022):
@@ -43,11 +44,22 @@ def private_file(program):
     return owned(place / "private", USER, 0o600)
 
 
-def change(program, folder, user=USER, seconds=5.0, **options):
-    """Sets the hours to 7, within some seconds."""
-    begin = time.monotonic()
+def change(program, folder, user=USER, **options):
+    """Sets the hours to 7."""
     program.play(folder, CHANGE, **as_user(user), **options)
-    expect("a run without long waits", time.monotonic() - begin < seconds, True)
+
+
+def change_within(seconds, program, folder, **options):
+    """The quickest of some changes counts: a busy machine holds up one of them, a wait all."""
+    quickest = seconds
+    for _ in range(TRIES):
+        (folder / "norvane.ini").unlink(missing_ok=True)
+        begin = time.monotonic()
+        change(program, folder, **options)
+        quickest = min(quickest, time.monotonic() - begin)
+        if quickest < seconds:
+            return
+    raise AssertionError(f"each of {TRIES} changes takes {seconds} seconds or more")
 
 
 def expect_kept(folder, *others):
@@ -62,7 +74,7 @@ def lock_of_a_stranger(program):
     held = os.open(folder, os.O_RDONLY)
     try:
         fcntl.flock(held, fcntl.LOCK_EX)
-        change(program, folder, seconds=2.5)
+        change_within(2.5, program, folder)
     finally:
         os.close(held)
     expect_kept(folder)
@@ -74,7 +86,7 @@ def no_locks(program):
     folder = owned(program.folder(), USER)
     reachable = program.new_place() / "no_locks.so"
     reachable.write_bytes(library.read_bytes())
-    change(program, folder, seconds=0.8, env={**os.environ, "LD_PRELOAD": str(reachable)})
+    change_within(0.8, program, folder, env={**os.environ, "LD_PRELOAD": str(reachable)})
     expect_kept(folder)
     return "written without one, at once"
 
