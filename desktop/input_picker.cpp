@@ -22,6 +22,10 @@ void InputPicker::Offer(NumberEdit& edit, const InputRow& row) {
   const Offered offered{row, &edit, new PickerArrow(edit)};
   offered_.push_back(offered);
   connect(offered.arrow, &PickerArrow::clicked, this, [this, offered] { Open(offered); });
+  connect(&edit, &NumberEdit::Number_Begun, this, [this, offered](const QString& letter) {
+    Open(offered);
+    picker_->Begin_With(letter);
+  });
   edit.Give_Steps([this, &edit, row]() -> NumberSteps {
     // A field that doesn't show may be one that the kind of object has no sizes for.
     if (!edit.isVisible()) return {};

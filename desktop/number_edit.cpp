@@ -13,6 +13,12 @@ namespace {
 constexpr int kWheelStep = 120;
 constexpr int kWidthInDigits = 9;
 
+bool Begins_Number(const QKeyEvent& key) {
+  if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+  const QChar letter = key.text().isEmpty() ? QChar() : key.text().front();
+  return letter == '-' || (letter >= '0' && letter <= '9');
+}
+
 }  // namespace
 
 NumberEdit::NumberEdit(QWidget* parent) : QLineEdit(parent) {
@@ -41,6 +47,10 @@ QSize NumberEdit::sizeHint() const {
 void NumberEdit::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
     emit Stepped(event->key() == Qt::Key_Up ? 1 : -1);
+    return;
+  }
+  if (isReadOnly() && Begins_Number(*event)) {
+    emit Number_Begun(event->text());
     return;
   }
   QLineEdit::keyPressEvent(event);

@@ -36,6 +36,8 @@ class NumberEdit : public QLineEdit {
   void Stepped(int direction);
   /// The field is to hold this number.
   void Value_Asked_For(double value);
+  /// A key that begins a number, where nothing can be typed.
+  void Number_Begun(const QString& letter);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

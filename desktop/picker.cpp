@@ -90,6 +90,8 @@ void Picker::Open_At(QWidget& field, const PickerSubject& subject) {
   line_->setFocus(Qt::PopupFocusReason);
 }
 
+void Picker::Begin_With(const QString& letter) { line_->setText(letter); }
+
 void Picker::Fill() {
   const Limits& limits = subject_.choices.limits;
   const QString reach = QString("%1 \u2026 %2 ").arg(limits.least).arg(limits.most);

@@ -33,6 +33,9 @@ class Picker : public QFrame {
   /// Shows the picker at a field of the screen.
   void Open_At(QWidget& field, const PickerSubject& subject);
 
+  /// What is typed first, instead of the text that the field shows.
+  void Begin_With(const QString& letter);
+
   bool eventFilter(QObject* object, QEvent* event) override;
 
  signals:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QString>
 #include <utility>
 #include <vector>
 
@@ -12,10 +13,11 @@ namespace norvane {
 
 class Button;
 class FormView;
+class TipButton;
 class Warmt;
 
 /// The strip of picture buttons on the main screen, and the box under a button that tells what the
-/// button does.
+/// button does, and by which key.
 class ToolStrip : public QFrame {
   Q_OBJECT
 
@@ -32,9 +34,18 @@ class ToolStrip : public QFrame {
   void mouseMoveEvent(QMouseEvent*) override {}
 
  private:
+  struct Tool {
+    Button* field;
+    ToolButton* button;
+    QString key;
+  };
+
   void Add_Group(QBoxLayout& row, const std::vector<std::pair<Button*, ToolSign>>& group);
   /// A `choice` is one of a group of which one is chosen.
   void Add_Button(QBoxLayout& row, Button& field, ToolSign sign, bool choice);
+  /// Clicks a button for its key. An input field that the user was at keeps the keyboard, or the
+  /// one that has come into its place.
+  void Press_By_Key(Button& field);
   void Make_Tooltip();
   /// Mouse or keyboard has come to a button.
   void Reach(ToolButton& button, Button& field);
@@ -44,10 +55,11 @@ class ToolStrip : public QFrame {
   FormView& view_;
   Warmt& warmt_;
   QFrame* tooltip_;
+  TipButton* tip_ = nullptr;
   bool tooltip_sized_ = false;
   ToolButton* reached_ = nullptr;
   bool brought_by_focus_ = false;  ///< the keyboard was the last to come to a button
-  std::vector<std::pair<Button*, ToolButton*>> buttons_;
+  std::vector<Tool> tools_;
 };
 
 }  // namespace norvane

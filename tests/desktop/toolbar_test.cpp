@@ -55,6 +55,78 @@ class Toolbar : public WindowTest {
   QPoint Bare_Place() { return {3, Main_View().height() / 2}; }
 };
 
+TEST_F(Toolbar, Each_Button_Has_A_Key_From_Left_To_Right) {
+  Press(Qt::Key_3, Qt::ControlModifier);
+  EXPECT_EQ(State().Sel_Size, 1);
+  Press(Qt::Key_4, Qt::ControlModifier);
+  EXPECT_EQ(State().Sel_Size, 2);
+  Press(Qt::Key_5, Qt::ControlModifier);
+  EXPECT_EQ(State().Sel_Size, 3);
+  Press(Qt::Key_2, Qt::ControlModifier);
+  EXPECT_EQ(State().Sel_Size, 0);
+  Press(Qt::Key_7, Qt::ControlModifier);
+  EXPECT_EQ(Screen().Calc_Mode, "C");
+  Press(Qt::Key_6, Qt::ControlModifier);
+  EXPECT_EQ(Screen().Calc_Mode, "T");
+  const struct {
+    int key;
+    int tab;
+  } kDialogs[] = {{Qt::Key_8, 2}, {Qt::Key_9, 1}, {Qt::Key_F12, 0}};
+  for (const auto& each : kDialogs) {
+    watchdog.Expect([&](QWidget& dialog) {
+      EXPECT_EQ(State().forms.settings->SSTab1.Tab(), each.tab);
+      dialog.close();
+    });
+    Press(each.key, Qt::ControlModifier);
+    Wait_Until_Active(Screen());
+  }
+  Click(Screen().cmdAdd);
+  Press(Qt::Key_1, Qt::ControlModifier);
+  Wait_Until_Active(*State().forms.total);
+}
+
+TEST_F(Toolbar, The_Key_Of_A_Button_That_Does_Not_Show_Does_Nothing) {
+  Press(Qt::Key_F11, Qt::ControlModifier);
+  EXPECT_EQ(Shown(Screen().Label4(0)), Number("0.039")) << "Lambda 0.040 is there in German only";
+}
+
+TEST_F(Toolbar, After_A_Key_The_User_Types_On_In_The_Field) {
+  Click(Screen().txtT(0));
+  Press(Qt::Key_3, Qt::ControlModifier);
+  EXPECT_TRUE(Edit(Screen().txtT(0)).hasFocus());
+  EXPECT_EQ(Edit(Screen().txtT(0)).selectedText(), "80");
+  Press(Qt::Key_7, Qt::ControlModifier);
+  EXPECT_TRUE(Edit(Screen().txtC(0)).hasFocus()) << "in its place";
+  Type("6");
+  EXPECT_EQ(Shown(Screen().txtC(0)), "6");
+  Press(Qt::Key_Tab);
+  Press(Qt::Key_Tab);
+  Press(Qt::Key_5, Qt::ControlModifier);
+  EXPECT_TRUE(Widget(Screen().cmdToolBar1(3)).hasFocus()) << "the diameter has gone";
+  Click(Screen().Combo1);
+  Press(Qt::Key_Escape);
+  Press(Qt::Key_2, Qt::ControlModifier);
+  EXPECT_TRUE(Widget(Screen().cmdToolBar1(0)).hasFocus()) << "as behind a click";
+}
+
+TEST_F(Toolbar, The_Tip_Shows_The_Key_Too) {
+  Hover(Screen().cmdToolBar1(1));
+  Settle();
+  EXPECT_EQ(Tooltip_Text(), "Copper tube");
+  EXPECT_EQ(Widget(Screen().cmdToolBar1(1)).accessibleDescription(), "Ctrl+3");
+  // What stands behind the words is as dark as they are.
+  const QImage tip = Widget(Screen().LblTooltip).grab().toImage();
+  const auto ink_from = [&](int left) {
+    int pixels = 0;
+    for (int y = 0; y < tip.height(); ++y) {
+      for (int x = left; x < tip.width(); ++x) pixels += qGray(tip.pixel(x, y)) < 140;
+    }
+    return pixels;
+  };
+  const int key = Widget(Screen().LblTooltip).fontMetrics().horizontalAdvance("Ctrl+3");
+  EXPECT_GT(ink_from(tip.width() - key - 6), 10);
+}
+
 TEST_F(Toolbar, The_Mouse_Over_A_Button_Shows_Its_Tooltip_Under_It) {
   EXPECT_FALSE(Box().isVisible());
   for (const Tool& tool : Tools()) {

@@ -104,7 +104,10 @@ class User(WindowUser):
             return
         name = self.random.choice(fields)
         self.click_on(form, name, f"click {form}.{name}")
+        # A digit opens the picker of a locked field.
+        locked = self.session.wanted.raw[f"{form}.{name}.Locked"] == "true"
         for verb, text, *keys in self.strokes():
+            keys += ["Escape"] if locked else []
             # A diameter that is too small takes the focus, and with it the keys.
             if self.session.ended or not self.has_focus(form, name):
                 return
