@@ -63,11 +63,17 @@ QList<QLineF> Pieces(const QList<QLineF>& curve, const QPen& pen) {
   return pieces;
 }
 
+bool Is_Wanted(const QRectF& place, const QRegion& wanted) {
+  return wanted.isEmpty() || wanted.intersects(place.toAlignedRect());
+}
+
 void Paint_Lines(QPainter& painter, const Chart& chart, const ChartLayout& layout,
-                 const ChartColours& colours) {
+                 const ChartColours& colours, const QRegion& wanted) {
   for (std::size_t i = 0; i < chart.lines.size(); ++i) {
     painter.setPen(Pen_Of(i, colours));
-    painter.drawLine(layout.Sample(i));
+    const QLineF sample = layout.Sample(i);
+    const QRectF around(sample.p1() - QPointF(0, kThick), sample.p2() + QPointF(0, kThick));
+    if (Is_Wanted(around, wanted)) painter.drawLine(sample);
     // Qt paints single straight lines several times faster than a curve, and than dashes.
     const QList<QLineF> pieces = Pieces(layout.Curve(chart.lines[i]), painter.pen());
     painter.setPen(QPen(colours.lines[i], kThick, Qt::SolidLine, Qt::FlatCap));
@@ -111,11 +117,12 @@ ChartColours Chart_Colours(const QPalette& palette) {
 }
 
 void Paint_Chart(QPainter& painter, const Chart& chart, const ChartLayout& layout,
-                 const ChartColours& colours, std::optional<std::size_t> reading) {
+                 const ChartColours& colours, std::optional<std::size_t> reading,
+                 const QRegion& wanted) {
   if (chart.lines.empty()) return;
   Paint_Grid(painter, chart, layout, colours);
   painter.setRenderHint(QPainter::Antialiasing);
-  Paint_Lines(painter, chart, layout, colours);
+  Paint_Lines(painter, chart, layout, colours, wanted);
   if (chart.present) {
     Paint_Mark(painter, chart, layout, colours, *chart.present,
                [](const ChartLine& line) { return line.at_present; });
@@ -125,6 +132,7 @@ void Paint_Chart(QPainter& painter, const Chart& chart, const ChartLayout& layou
                [&](const ChartLine& line) { return line.values[*reading]; });
   }
   for (const ChartText& text : layout.Texts()) {
+    if (!Is_Wanted(text.room, wanted)) continue;
     painter.setPen(text.line < 0 ? colours.text
                                  : colours.lines[static_cast<std::size_t>(text.line)]);
     painter.drawStaticText(Corner_Of(text), text.prepared);

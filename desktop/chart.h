@@ -5,6 +5,7 @@
 #include <QLineF>
 #include <QList>
 #include <QRectF>
+#include <QRegion>
 #include <QStaticText>
 #include <QString>
 #include <array>
@@ -89,6 +90,8 @@ class ChartLayout {
   const std::vector<ChartText>& Texts() const { return texts_; }
   /// Writes the values of the chart as it is now, or of a place; all else stays.
   void Write_Values(std::optional<std::size_t> reading);
+  /// Where something looks otherwise when other values are written.
+  QRegion Of_Values() const;
   /// Where the sample of a line stands, in front of its name.
   QLineF Sample(std::size_t line) const;
   /// The number of the place that is nearest to a position.
@@ -102,6 +105,7 @@ class ChartLayout {
   void Add_Text(const QRectF& room, Qt::Alignment alignment, const QString& text, int line);
   void Add_Names();
   void Write_Value(std::size_t name, const QString& value);
+  QStaticText Prepared(const QString& text) const;
   void Place_Plot();
   void Add_Scale(const ChartAxis& axis, bool on_right);
   void Add_Numbers_Across();
@@ -116,8 +120,10 @@ class ChartLayout {
 };
 
 /// Paints a chart as it was laid out, with the painter's font.
+/// @param wanted what is to be painted, in whole or at least; empty for all
 void Paint_Chart(QPainter& painter, const Chart& chart, const ChartLayout& layout,
-                 const ChartColours& colours, std::optional<std::size_t> reading = {});
+                 const ChartColours& colours, std::optional<std::size_t> reading = {},
+                 const QRegion& wanted = {});
 
 /// Lays a chart out and paints it, for paper.
 void Paint_Chart(QPainter& painter, const QRectF& area, const Chart& chart,

@@ -66,10 +66,14 @@ ChartLayout::ChartLayout(const Chart& chart, const QRectF& area, const QFont& fo
 
 void ChartLayout::Add_Text(const QRectF& room, Qt::Alignment alignment, const QString& text,
                            int line) {
+  texts_.push_back({room, alignment, text, line, Prepared(text)});
+}
+
+QStaticText ChartLayout::Prepared(const QString& text) const {
   QStaticText prepared(text);
   prepared.setTextFormat(Qt::PlainText);
   prepared.prepare({}, font_);
-  texts_.push_back({room, alignment, text, line, prepared});
+  return prepared;
 }
 
 void ChartLayout::Place_Plot() {
@@ -97,7 +101,6 @@ void ChartLayout::Add_Names() {
 }
 
 void ChartLayout::Write_Values(std::optional<std::size_t> reading) {
-  texts_.resize(lasting_);
   if (chart_.lines.empty()) return;
   const auto at = reading ? chart_.places[*reading] : chart_.present;
   for (std::size_t i = 0; i < chart_.lines.size(); ++i) {
@@ -110,12 +113,27 @@ void ChartLayout::Write_Values(std::optional<std::size_t> reading) {
 }
 
 void ChartLayout::Write_Value(std::size_t name, const QString& value) {
+  const std::size_t place = lasting_ + name;
+  if (place < texts_.size() && texts_[place].text == value) return;
   const qreal width = QFontMetricsF(font_).horizontalAdvance(value);
   QRectF room = texts_[name].room;
   room.setRight(area_.right());
   texts_[name].room = room.adjusted(0, 0, -width - kGap, 0);
   room.setLeft(area_.right() - width);
-  Add_Text(room, Qt::AlignRight, value, texts_[name].line);
+  if (place == texts_.size()) {
+    Add_Text(room, Qt::AlignRight, value, texts_[name].line);
+  } else {
+    texts_[place].room = room;
+    texts_[place].text = value;
+    texts_[place].prepared = Prepared(value);
+  }
+}
+
+QRegion ChartLayout::Of_Values() const {
+  constexpr int kAround = 6;  // what dots and thick lines stand out of the plot by
+  QRegion region = plot_.toAlignedRect().adjusted(-kAround, -kAround, kAround, kAround);
+  for (std::size_t i = lasting_; i < texts_.size(); ++i) region += texts_[i].room.toAlignedRect();
+  return region;
 }
 
 void ChartLayout::Add_Scale(const ChartAxis& axis, bool on_right) {

@@ -1,6 +1,7 @@
 #include "desktop/chart_view.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <utility>
 
@@ -15,26 +16,35 @@ ChartView::ChartView(QWidget* parent) : QWidget(parent) {
 QSize ChartView::minimumSizeHint() const { return {300, 200}; }
 
 void ChartView::Set_Chart(Chart chart) {
-  if (!Differ_In_Values_Only(chart, chart_)) layout_.reset();
+  const bool stays = layout_ && Is_Laid_Out() && Differ_In_Values_Only(chart, chart_);
+  if (stays) {
+    update(layout_->Of_Values());
+  } else {
+    layout_.reset();
+    update();
+  }
   chart_ = std::move(chart);
   if (reading_ && *reading_ >= chart_.places.size()) reading_.reset();
-  setCursor(chart_.lines.empty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
-  update();
+  if (stays) {
+    layout_->Write_Values(reading_);
+    update(layout_->Of_Values());
+  }
+  const Qt::CursorShape shape = chart_.lines.empty() ? Qt::ArrowCursor : Qt::PointingHandCursor;
+  if (cursor().shape() != shape) setCursor(shape);
+}
+
+bool ChartView::Is_Laid_Out() const {
+  return layout_->Area() == QRectF(contentsRect()) && layout_->Font() == font();
 }
 
 const ChartLayout& ChartView::Laid_Out() const {
-  const QRectF area(contentsRect());
-  if (layout_ && layout_->Area() == area && layout_->Font() == font()) {
-    layout_->Write_Values(reading_);
-  } else {
-    layout_.emplace(chart_, area, font(), reading_);
-  }
+  if (!layout_ || !Is_Laid_Out()) layout_.emplace(chart_, contentsRect(), font(), reading_);
   return *layout_;
 }
 
-void ChartView::paintEvent(QPaintEvent*) {
+void ChartView::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  Paint_Chart(painter, chart_, Laid_Out(), Chart_Colours(palette()), reading_);
+  Paint_Chart(painter, chart_, Laid_Out(), Chart_Colours(palette()), reading_, event->region());
 }
 
 std::optional<std::size_t> ChartView::Place_At(const QPointF& position) const {
@@ -47,7 +57,14 @@ std::optional<std::size_t> ChartView::Place_At(const QPointF& position) const {
 }
 
 void ChartView::Read(std::optional<std::size_t> place) {
-  if (std::exchange(reading_, place) != place) update();
+  if (std::exchange(reading_, place) == place) return;
+  if (layout_) {
+    update(layout_->Of_Values());
+    layout_->Write_Values(reading_);
+    update(layout_->Of_Values());
+  } else {
+    update();
+  }
 }
 
 void ChartView::mouseMoveEvent(QMouseEvent* event) { Read(Place_At(event->position())); }

@@ -30,6 +30,7 @@ class ChartView : public QWidget {
   void leaveEvent(QEvent* event) override;
 
  private:
+  bool Is_Laid_Out() const;
   void Read(std::optional<std::size_t> place);
   std::optional<std::size_t> Place_At(const QPointF& position) const;
 
