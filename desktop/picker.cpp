@@ -17,7 +17,7 @@ namespace norvane {
 namespace {
 
 constexpr int kRowsShown = 8;
-constexpr int kMargin = 7;        // pixels
+constexpr int kPickerMargin = 7;  // pixels
 constexpr int kRowPadding = 8;    // above and below a text of the list, together
 constexpr int kCellPadding = 16;  // beside it
 constexpr int kLongestLine = 9;   // letters; every number in reach of a field has room
@@ -55,7 +55,7 @@ Picker::Picker(QWidget* parent)
   setAutoFillBackground(true);
   hide();
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  column->setContentsMargins(kPickerMargin, kPickerMargin, kPickerMargin, kPickerMargin);
   column->addWidget(line_);
   column->addWidget(limits_);
   column->addWidget(list_);

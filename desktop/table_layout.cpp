@@ -163,7 +163,9 @@ void TableLayout::Paint_Sums(QPainter& painter, qreal top) const {
     const bool label = i == 0;
     while (label && last + 1 < table_.sums.size() && table_.sums[last + 1].isEmpty()) ++last;
     cell.setRight(Cell(last, top, Line_Height()).right());
-    painter.drawText(cell, (label ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignTop, table_.sums[i]);
+    painter.drawText(cell,
+                     static_cast<int>((label ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignTop),
+                     table_.sums[i]);
   }
 }
 

@@ -282,6 +282,12 @@ TEST_F(Picking, A_Digit_Opens_It_In_A_Field_That_Can_Not_Be_Typed_Into) {
   EXPECT_EQ(Marked(), "80") << "no humidity is as low as 8";
   Press(Qt::Key_Return);
   EXPECT_EQ(Shown(Screen().txtC(4)), "80");
+  for (const char* letter : {"-", "9", "7"}) {
+    Type(letter);
+    EXPECT_EQ(Line().text(), letter);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Open_Picker(), nullptr) << letter;
+  }
   Type("x");
   Press(Qt::Key_Backspace);
   EXPECT_EQ(Open_Picker(), nullptr) << "neither begins a number";
