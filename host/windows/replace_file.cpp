@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 using Edit = std::function<std::string(const std::string&)>;
 
-constexpr std::chrono::seconds kPatience{3};
+constexpr std::chrono::seconds kPatienceForATurn{3};
 /// So many times at once, and the folder is one that can't be written to.
 constexpr int kRefusals = 50;
 constexpr int kAttempts = 20;
@@ -46,7 +46,7 @@ std::wstring Final_Path(const std::wstring& path) {
 class Turn {
  public:
   explicit Turn(const std::wstring& path) : name_(path + L".turn") {
-    const auto end = std::chrono::steady_clock::now() + kPatience;
+    const auto end = std::chrono::steady_clock::now() + kPatienceForATurn;
     int refused = 0;  // one after the other
     while (!(came_ = Take()) && std::chrono::steady_clock::now() < end) {
       const DWORD error = GetLastError();
@@ -122,7 +122,7 @@ class NewFile {
       return MoveFileExW(path_.c_str(), place.c_str(),
                          MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
     };
-    if (!Try_While_Busy(move, kPatience)) DeleteFileW(path_.c_str());
+    if (!Try_While_Busy(move, kPatienceForATurn)) DeleteFileW(path_.c_str());
   }
 
  private:

@@ -6,7 +6,7 @@ namespace norvane {
 namespace {
 
 constexpr LCID kEnglish = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
-constexpr DWORD kBetweenTries = 100;  // milliseconds
+constexpr DWORD kBetweenCalls = 100;  // milliseconds
 
 /// What Excel answers by itself, past all message filters, while a cell is being edited.
 constexpr auto kExcelIsBusy = static_cast<HRESULT>(0x800AC472);
@@ -30,7 +30,7 @@ Variant Members::Ask(const Variant& object, const wchar_t* member, WORD how,
   const auto in_time = [&](const auto& call) {
     HRESULT result = call();
     while (Is_Busy(result) && std::chrono::steady_clock::now() < end) {
-      Sleep(kBetweenTries);
+      Sleep(kBetweenCalls);
       result = call();
     }
     Require(result);
