@@ -9,7 +9,13 @@ ScheduleSession::ScheduleSession(const std::filesystem::path& folder, char decim
   Begin_New();
 }
 
-ScheduleSession::~ScheduleSession() { Keep(); }
+ScheduleSession::~ScheduleSession() {
+  try {
+    Keep();
+  } catch (...) {
+    // Memory that lacks now: what was kept before is still there.
+  }
+}
 
 void ScheduleSession::Show(ScheduleFile file, std::optional<SchedulePlace> place) {
   document_ = std::make_unique<ScheduleDocument>(std::move(file));
